@@ -59,7 +59,8 @@ class EphemerisContext
 {
 public:
     /// The series must outlive the context.
-    explicit EphemerisContext(const Series& series) : series_(&series) {}
+    explicit EphemerisContext(const Series& series) : series_(&series)
+    {}
 
     /// Sets the moment. What was computed for another moment is not used any more.
     void setTime(const core::TimeArguments& arguments);
@@ -96,8 +97,8 @@ void SumSeries(const EphemerisContext& context, int code, HeliocentricPosition& 
 /// Computes a body for the context's moment and leaves its result in the context. Codes below 3 are
 /// the Sun; a planet computes the Earth first when that was not done for this moment.
 /// Longitudes are referred to the mean equinox of date without nutation, except those of Pluto and
-/// of code 11, which are referred to J2000.0. The light-time step moves the Earth back together with
-/// the planet, which is the annual aberration to first order, so none is added.
+/// of code 11, which are referred to J2000.0. The light-time step moves the Earth back together
+/// with the planet, which is the annual aberration to first order, so none is added.
 void PlanetPosition(EphemerisContext& context, int code);
 
 /// Phase and visual magnitude of the last body (codes 3 to 10), when they are switched on.

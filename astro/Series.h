@@ -31,8 +31,8 @@ struct SeriesBlock
 };
 
 /// One entry: entry 0 is the Earth referred to the equinox of date, 1 Mars, 2 Mercury, 3 Jupiter, 4
-/// Venus, 5 Saturn, 6 Uranus, 7 Neptune, 8 the Earth referred to J2000.0. The entries are not in the
-/// order of distance.
+/// Venus, 5 Saturn, 6 Uranus, 7 Neptune, 8 the Earth referred to J2000.0. The entries are not in
+/// the order of distance.
 struct SeriesEntry
 {
     std::array<SeriesBlock, kSeriesBlocks> blocks = {};

@@ -193,16 +193,15 @@ Result<CivilDate> parseDate(std::string_view text)
 Result<double> parseClock(std::string_view text)
 {
     const std::vector<std::string_view> parts = splitAt(text, ':');
-    const std::optional<int> hour =
-        allDigits(parts[0]) && parts[0].size() <= 2 ? parseInteger(parts[0]) : std::nullopt;
     const std::optional<double> fraction = parseMinutes(parts, 1);
-    if (!hour || !fraction) {
+    if (!allDigits(parts[0]) || parts[0].size() > 2 || !fraction) {
         return Error{"time " + quoted(text) + " is not understood; write HH:MM or HH:MM:SS"};
     }
-    if (*hour >= 24) {
+    const int hour = readLeadingInteger(parts[0]);
+    if (hour >= 24) {
         return Error{"time " + quoted(text) + " is not between 0:00 and 23:59:59"};
     }
-    return *hour + *fraction;
+    return hour + *fraction;
 }
 
 Result<double> parseZone(std::string_view text)
