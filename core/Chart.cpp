@@ -16,6 +16,12 @@ void Chart::clearPoints()
     hasSandhis = false;
     houseSystem = -1;
     cuspsComplete = false;
+    vargas = {};
+    nearBoundary = {};
+    compound = {};
+    vimshopaka = {};
+    vimshopakaPositional = {};
+    combust.fill(false);
 }
 
 } // namespace kestrav::core

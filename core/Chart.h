@@ -3,6 +3,7 @@
 
 #include "core/DateTime.h"
 #include "core/Points.h"
+#include "core/Varga.h"
 
 #include <array>
 #include <optional>
@@ -87,6 +88,17 @@ struct Chart
     PointArray<double> degreeInSign = {};      ///< 0 to under 30, negative when not computed
     PointArray<int> navamshaSign = {};         ///< 1 to 12
     PointArray<double> nakshatraPosition = {}; ///< 0 to under 27
+
+    // What the analysis of the signs fills.
+    VargaArray<PointArray<VargaPlacement>> vargas = {};
+    VargaArray<PointArray<bool>> nearBoundary = {}; ///< placements close to a part's boundary
+    /// Compound relationship in the rashi of planet (row) towards planet, -2 to 2, 3 for itself;
+    /// indexes 1 to 7, row and column 0 are unused.
+    std::array<std::array<int, 8>, 8> compound = {};
+    /// Vimshopaka of the points for the sets Shodasha, Dasha, Sapta and Shad; planets 1 to 7 only.
+    std::array<std::array<int, 4>, 10> vimshopaka = {};
+    std::array<std::array<int, 4>, 10> vimshopakaPositional = {};
+    PointArray<bool> combust = {};
 
     Chart();
 

@@ -1,0 +1,107 @@
+#include "analysis/Arudhas.h"
+
+#include "analysis/SignPositions.h"
+#include "core/Angles.h"
+
+#include <cmath>
+
+namespace kestrav::analysis
+{
+
+namespace
+{
+
+using core::at;
+using core::norm12;
+
+constexpr int kArudhaHouses = 12;
+
+// The sign as far from `lordSign` as that is from `from`, moved on when it falls on `from` or
+// opposite to it.
+int padaSign(int from, int lordSign)
+{
+    const int distance = core::ModFrom(12, 0, lordSign - from);
+    const int pada = norm12(lordSign + distance);
+    const int fromHouse = core::ModFrom(12, 0, pada - from);
+    return fromHouse == 0 || fromHouse == 6 ? norm12(pada + 9) : pada;
+}
+
+int ownSign(const SignView& view, int planet)
+{
+    switch (planet) {
+    case core::kSun:
+        return 5;
+    case core::kMoon:
+        return 4;
+    case core::kMars:
+        return strongerSign(view, 1, 8);
+    case core::kMercury:
+        return strongerSign(view, 3, 6);
+    case core::kJupiter:
+        return strongerSign(view, 9, 12);
+    case core::kVenus:
+        return strongerSign(view, 2, 7);
+    case core::kSaturn:
+        return strongerSign(view, 10, 11);
+    case core::kRahu:
+        return 11;
+    default:
+        return 8;
+    }
+}
+
+int pointOfHouse(int house)
+{
+    return core::kArudhaPada1 + house - 1;
+}
+
+} // namespace
+
+std::array<int, 12> arudhaSigns(const SignView& view, bool coLords)
+{
+    std::array<int, 12> signs{};
+    for (int house = 1; house <= kArudhaHouses; ++house) {
+        const int sign = norm12(view.sign[core::kAscendant] + house - 1);
+        const int lord = lordOfSign(view, sign, coLords);
+        at(signs, house - 1) = padaSign(sign, at(view.sign, lord));
+    }
+    return signs;
+}
+
+int arudhaOfPlanet(const SignView& view, int planet)
+{
+    return padaSign(at(view.sign, planet), ownSign(view, planet));
+}
+
+void computeArudhaPoints(core::Chart& chart, const core::Settings& settings)
+{
+    const SignView view = signView(chart, core::kRashi, settings);
+    const std::array<int, 12> signs = arudhaSigns(view, settings.coLords);
+    const auto store = [&](int point, int sign) {
+        // The sum must not round up into the next sign.
+        const double end = std::nextafter(sign * 30.0, 0.0);
+        const double degree = chart.degreeInSign[core::kAscendant];
+        at(chart.longitude, point) = std::fmin((sign - 1) * 30.0 + degree, end);
+        computeSignData(chart, point);
+    };
+    store(core::kArudhaLagna, signs[0]);
+    for (int house = 1; house <= kArudhaHouses; ++house) {
+        store(pointOfHouse(house), at(signs, house - 1));
+    }
+}
+
+void storeArudhaSigns(core::Chart& chart, int varga, const core::Settings& settings)
+{
+    if (!chart.computed(core::kArudhaLagna)) {
+        return;
+    }
+    const std::array<int, 12> signs =
+        arudhaSigns(signView(chart, varga, settings), settings.coLords);
+    core::PointArray<core::VargaPlacement>& placements = at(chart.vargas, varga);
+    placements[core::kArudhaLagna].sign = signs[0];
+    for (int house = 1; house <= kArudhaHouses; ++house) {
+        at(placements, pointOfHouse(house)).sign = at(signs, house - 1);
+    }
+}
+
+} // namespace kestrav::analysis

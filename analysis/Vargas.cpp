@@ -1,0 +1,276 @@
+#include "analysis/Vargas.h"
+
+#include "analysis/Arudhas.h"
+#include "analysis/VargaNames.h"
+#include "core/Angles.h"
+
+#include <array>
+#include <cmath>
+#include <cstddef>
+
+namespace kestrav::analysis
+{
+
+namespace
+{
+
+using core::at;
+using core::norm12;
+
+// Positions counted backwards start here, so they end at -0.00001. That is kept.
+constexpr double kReversedStart = 29.99999;
+
+// Points 60 to 62 never have a placement.
+constexpr int kDividedPoints = 60;
+
+// One part of a divided sign and where in it a point stands.
+struct Part
+{
+    int index = 0;         // of the part
+    double fraction = 0.0; // of the part that lies behind the point
+    double position = 0.0; // the fraction as degrees of a sign
+    int strengthStep = 0;
+    bool nearBoundary = false;
+};
+
+// What the rules read: the point's place in the zodiac.
+struct Place
+{
+    int rashi;
+    bool even;
+    double degreeInSign;
+    double longitude;
+    int navamshaSign;
+};
+
+struct Divided
+{
+    int sign;
+    Part part;
+};
+
+int stepInSign(double fraction, bool even)
+{
+    constexpr std::array<double, 5> kFifths = {0.25, 0.5, 1.0, 0.1, 0.0};
+    const double g = even ? 0.99999 - fraction : fraction;
+    // At the very end of an even sign g is slightly below 0; truncation makes that the first fifth.
+    return int(kFifths[std::size_t(int(g * 5.0))] * 4.0);
+}
+
+int stepInPart(double fraction)
+{
+    return 2 * int(std::floor((1.0 - fraction) * 3.0));
+}
+
+double distanceToBoundary(double fraction)
+{
+    return std::fabs(fraction - (fraction >= 0.5 ? 1.0 : 0.0));
+}
+
+// The order of these operations is part of the rules: with 1/30 as a factor of its own the exact
+// part starts of the sign fall into the right part, but for a few of 7 and 11 divisions.
+Part partOf(double value, int division, bool evenSign, const core::Settings& settings)
+{
+    const double x = value * division * (1.0 / 30.0);
+    double whole = 0.0;
+    const double fraction = std::modf(x, &whole);
+    const double minutes = std::floor(distanceToBoundary(fraction) * 1800.0 / division);
+    return {int(whole), fraction, fraction * 30.0,
+            division == 1 ? stepInSign(fraction, evenSign) : stepInPart(fraction),
+            minutes < settings.sandhiMinutes};
+}
+
+// Parts are counted through the whole zodiac from Aries.
+Divided continuous(const Place& place, int division, const core::Settings& settings)
+{
+    const Part part = partOf(place.longitude, division, place.even, settings);
+    return {part.index + 1, part};
+}
+
+Divided hora(const Place& place, const core::Settings& settings)
+{
+    Part part = partOf(place.degreeInSign, 2, place.even, settings);
+    const bool firstHalf = part.index == 0;
+    switch (settings.horaMethod) {
+    case 1:
+        return continuous(place, 2, settings);
+    case 2: {
+        // This set is not that of the odd signs, on purpose.
+        constexpr std::array<bool, 13> kSeventhFirst = {
+            false, true, false, true, false, false, true, false, true, false, true, true, false};
+        const bool seventh = kSeventhFirst[std::size_t(place.rashi)] == firstHalf;
+        return {seventh ? place.rashi + 6 : place.rashi, part};
+    }
+    case 3: {
+        constexpr std::array<int, 24> kSigns = {8, 1, 2, 7, 6,  3, 4,  5,  5,  4,  3, 6,
+                                                7, 2, 1, 8, 12, 9, 10, 11, 11, 10, 9, 12};
+        return {kSigns[std::size_t(std::floor(place.longitude * (1.0 / 15.0)))], part};
+    }
+    default:
+        if (place.even) {
+            part.index = 1 - part.index;
+            part.position = kReversedStart - part.position;
+        }
+        return {5 - part.index, part};
+    }
+}
+
+Divided shodashamsha(const Place& place, const core::Settings& settings)
+{
+    Divided result = continuous(place, 16, settings);
+    if (settings.shodashamshaVariant == 0) {
+        return result;
+    }
+    const int m = norm12(result.part.index - 16 * (place.rashi - 1));
+    if (place.even) {
+        result.sign = place.rashi + 3 - m;
+        result.part.position = kReversedStart - result.part.position;
+    } else {
+        result.sign = place.rashi + m;
+    }
+    return result;
+}
+
+Divided rudramsha(const Place& place, const core::Settings& settings)
+{
+    if (settings.rudramshaVariant == 0) {
+        return continuous(place, 11, settings);
+    }
+    // Counted backwards from Aries in every sign alike.
+    Divided result = {0, partOf(place.degreeInSign, 11, place.even, settings)};
+    result.sign = 13 - result.part.index;
+    result.part.position = kReversedStart - result.part.position;
+    return result;
+}
+
+// Five unequal parts. An inner boundary from the second one on belongs to the earlier part, with
+// the fraction 1, but 5 degrees belongs to the later one.
+Divided trimshamsa(const Place& place, const core::Settings& settings)
+{
+    struct Row
+    {
+        std::array<double, 5> widths;
+        std::array<int, 5> signs;
+    };
+    constexpr Row kOdd = {{5, 5, 8, 7, 5}, {1, 11, 9, 3, 7}};
+    constexpr Row kEven = {{5, 7, 8, 5, 5}, {2, 6, 12, 10, 8}};
+    const Row& row = place.even ? kEven : kOdd;
+    double rest = place.degreeInSign;
+    std::size_t i = 0;
+    if (rest >= 5.0) {
+        for (;;) {
+            rest -= row.widths[i];
+            if (i == 3 || row.widths[i + 1] >= rest) {
+                break;
+            }
+            ++i;
+        }
+        ++i;
+    }
+    const double width = row.widths[i];
+    const double fraction = rest / width;
+    const double minutes = std::floor(distanceToBoundary(fraction) * width * 60.0);
+    return {row.signs[i],
+            {int(i), fraction, fraction * 30.0, stepInPart(fraction),
+             minutes < settings.sandhiMinutes}};
+}
+
+// The twelve parts of each navamsha are counted from the navamsha sign.
+Divided navaDwadasha(const Place& place, const core::Settings& settings)
+{
+    const double x = place.longitude * 3.6;
+    double whole = 0.0;
+    const double fraction = std::modf(x, &whole);
+    const double minutes = std::floor(distanceToBoundary(fraction) * 1800.0 / 108.0);
+    return {int(whole) % 12 + place.navamshaSign,
+            {int(whole), fraction, fraction * 30.0, stepInPart(fraction),
+             minutes < settings.sandhiMinutes}};
+}
+
+Divided divide(const Place& place, int varga, const core::Settings& settings)
+{
+    const int r = place.rashi;
+    const int e = place.even ? 1 : 0;
+    const int division = vargaDivision(varga);
+    const auto counted = [&](auto signOfPart) {
+        const Part part = partOf(place.degreeInSign, division, place.even, settings);
+        return Divided{signOfPart(part.index), part};
+    };
+    switch (varga) {
+    case core::kRashi: {
+        Divided result = counted([&](int) { return r; });
+        result.part.position = place.degreeInSign;
+        return result;
+    }
+    case core::kHora:
+        return hora(place, settings);
+    case core::kDrekkana:
+        return counted([&](int k) { return r + 4 * k; });
+    case core::kChaturtamsha:
+        return counted([&](int k) { return r + 3 * k; });
+    case core::kDashamamsha:
+        return counted([&](int k) { return r + k + 8 * e; });
+    case core::kDwadashamsha:
+        return counted([&](int k) { return r + k; });
+    case core::kShodashamsha:
+        return shodashamsha(place, settings);
+    case core::kSiddhamsha:
+        return counted([&](int k) { return k + 5 - e; });
+    case core::kBhamsha:
+        return counted([&](int k) { return ((r - 1) % 4) * 3 + k + 1; });
+    case core::kTrimshamsa:
+        return trimshamsa(place, settings);
+    case core::kChatvarimshamsha:
+        return counted([&](int k) { return 6 * e + k + 1; });
+    case core::kAkshaVedamsha:
+        return counted([&](int k) { return ((r - 1) % 3) * 4 + k + 1; });
+    case core::kShashtiamsha:
+        // The sign and the position come from two roundings of the same degree.
+        return counted([&](int) { return int(std::floor(place.degreeInSign * 2.0)) % 12 + r; });
+    case core::kRudramsha:
+        return rudramsha(place, settings);
+    case core::kNavaDwadasha:
+        return navaDwadasha(place, settings);
+    default:
+        return continuous(place, division, settings);
+    }
+}
+
+} // namespace
+
+bool computeVarga(core::Chart& chart, int varga, int point, const core::Settings& settings)
+{
+    const int rashi = at(chart.rashi, point);
+    const Place place = {rashi, rashi % 2 == 0, at(chart.degreeInSign, point),
+                         at(chart.longitude, point), at(chart.navamshaSign, point)};
+    const Divided divided = divide(place, varga, settings);
+    core::VargaPlacement& placement = at(at(chart.vargas, varga), point);
+    placement.sign = norm12(divided.sign);
+    placement.strengthStep = divided.part.strengthStep;
+    placement.position = divided.part.position;
+    at(at(chart.nearBoundary, varga), point) = divided.part.nearBoundary;
+    return divided.part.nearBoundary;
+}
+
+void computeAllVargas(core::Chart& chart, const core::Settings& settings)
+{
+    for (int varga = 0; varga < core::kVargaCount; ++varga) {
+        for (int point = 0; point < kDividedPoints; ++point) {
+            const double degree = at(chart.degreeInSign, point);
+            if (degree >= 0.0 && degree < 30.0) {
+                computeVarga(chart, varga, point, settings);
+            }
+        }
+        if (settings.arudhasInVargas) {
+            storeArudhaSigns(chart, varga, settings);
+        }
+    }
+}
+
+int twentySecondDrekkanaSign(const core::Chart& chart, int point)
+{
+    const int drekkana = int(std::floor(at(chart.degreeInSign, point) * 0.1));
+    return norm12(at(chart.rashi, point) + 4 * drekkana + 7);
+}
+
+} // namespace kestrav::analysis
