@@ -131,7 +131,10 @@ Observer observerOf(const core::Chart& chart)
 std::optional<double> sunEvent(EphemerisContext& context, const core::DateTimeRecord& date,
                                const Observer& observer, HorizonEvent event)
 {
-    return approach(context, date, observer, searchOf(core::kSun), event, localMeanNoon(observer));
+    // Both midnights lie equally far from noon, and the equation of time would choose between them.
+    const double start =
+        localMeanNoon(observer) + (event == HorizonEvent::LowerCulmination ? 12.0 : 0.0);
+    return approach(context, date, observer, searchOf(core::kSun), event, start);
 }
 
 std::optional<double> bodyEvent(EphemerisContext& context, const core::DateTimeRecord& date,
@@ -167,12 +170,13 @@ std::optional<VedicDay> vedicDay(EphemerisContext& context, const core::DateTime
     // With a clock far from local time the day can have begun on either neighbouring date.
     for (const int days : {1, 0, -1, -2}) {
         const std::optional<double> sunrise = eventOn(days, HorizonEvent::Rise);
-        if (sunrise && *sunrise > moment.localTime) {
+        if (!sunrise || *sunrise > moment.localTime) {
             continue;
         }
+        // Where the Sun stays up or down the day has no end, which also rules out days long past.
         const std::optional<double> sunset = eventOn(days, HorizonEvent::Set);
         const std::optional<double> next = eventOn(days + 1, HorizonEvent::Rise);
-        if (!sunrise || !sunset || !next) {
+        if (!sunset || !next) {
             return std::nullopt;
         }
         return VedicDay{*sunrise, *sunset, *next};

@@ -31,9 +31,10 @@ enum class HorizonEvent
 
 /// The local clock hour of an event of the Sun on a civil date, counted from 0h of that date: the
 /// one nearest to local mean noon, so sunrise can lie below 0 and sunset above 24, but sunset is
-/// never before sunrise. Rise and set are the moments when the centre of the Sun stands at a
-/// geometric altitude of -0.5833333 degrees. Nothing when there is no such event on the date, as
-/// near the poles. Of the record the date and Delta T are read.
+/// never before sunrise; the lower culmination is the one after noon. Rise and set are the moments
+/// when the centre of the Sun stands at a geometric altitude of -0.5833333 degrees. Nothing when
+/// there is no such event on the date, as near the poles. Of the record the date and Delta T are
+/// read.
 [[nodiscard]] std::optional<double> sunEvent(EphemerisContext& context,
                                              const core::DateTimeRecord& date,
                                              const Observer& observer, HorizonEvent event);
