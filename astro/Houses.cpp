@@ -27,6 +27,9 @@ void storeCusp(core::Chart& chart, int house, double longitude)
     const bool exists = std::isfinite(longitude);
     core::at(chart.longitude, point) = exists ? Normalize360(longitude) : 0.0;
     core::at(chart.degreeInSign, point) = exists ? 0.0 : core::kNotComputed;
+    core::at(chart.rashi, point) = 0;
+    core::at(chart.navamshaSign, point) = 0;
+    core::at(chart.nakshatraPosition, point) = 0.0;
     chart.cuspsComplete = chart.cuspsComplete && exists;
 }
 
@@ -179,8 +182,12 @@ void HouseCusps(core::Chart& chart, int system)
     if (system < int(HouseSystem::ByRashi) || system > int(HouseSystem::PlacidusKp)) {
         return;
     }
+    // Nothing of an earlier computation stays behind.
     chart.houseSystem = system;
     chart.hasSandhis = false;
+    chart.sandhis = {};
+    chart.quadrantArcs = {};
+    chart.quadrantFactors = {};
     chart.cuspsComplete = true;
     switch (HouseSystem(system)) {
     case HouseSystem::ByRashi:
