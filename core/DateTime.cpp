@@ -4,6 +4,7 @@
 #include "core/Chart.h"
 #include "core/DeltaT.h"
 #include "core/Settings.h"
+#include "core/numeric.h"
 
 #include <array>
 #include <cmath>
@@ -40,18 +41,16 @@ double splitJulianDay(double julianDayPlusHalf, DateTimeRecord& record)
     const double C = std::floor((B - 122.1) / 365.25);
     const double D = std::floor(365.25 * C);
     const double E = std::floor((B - D) / 30.6001);
-    record.day = std::int32_t(B - D - std::floor(30.6001 * E));
-    record.month = std::int32_t(E < 14.0 ? E - 1.0 : E - 13.0);
-    record.year = std::int32_t(record.month > 2 ? C - 4716.0 : C - 4715.0);
-    if (record.year <= 0) {
-        --record.year;
-    }
+    record.day = truncated(B - D - std::floor(30.6001 * E));
+    record.month = truncated(E < 14.0 ? E - 1.0 : E - 13.0);
+    const double astronomicalYear = record.month > 2 ? C - 4716.0 : C - 4715.0;
+    record.year = truncated(astronomicalYear <= 0.0 ? astronomicalYear - 1.0 : astronomicalYear);
     return julianDayPlusHalf - Z;
 }
 
 int integerJulianDay(const DateTimeRecord& record)
 {
-    return int(record.dayCount - record.utHours / 24.0 + kEpoch1900);
+    return truncated(record.dayCount - record.utHours / 24.0 + kEpoch1900);
 }
 
 } // namespace
@@ -82,7 +81,7 @@ int SetTimeArguments(DateTimeRecord& record, TimeArguments& arguments)
     const double julianDay = DateToJulianDay(record);
     record.dayCount = record.utHours * (1.0 / 24.0) - kEpoch1900 + julianDay;
     arguments = timeArguments((record.dayCount + record.deltaTDays) * (1.0 / kDaysPerCentury));
-    return int(julianDay);
+    return truncated(julianDay);
 }
 
 void LocalToUniversal(Chart& chart, const Settings& settings, TimeArguments& arguments)
@@ -96,13 +95,13 @@ void LocalToUniversal(Chart& chart, const Settings& settings, TimeArguments& arg
 void JulianDayToDate(Chart& chart, const SavingTimeRule* rule)
 {
     DateTimeRecord& time = chart.time;
-    const double fraction = splitJulianDay(time.dayCount + 2415020.5 + chart.zone / 24.0, time);
-    time.localTime = fraction * 24.0;
+    const double local = time.dayCount + 2415020.5 + chart.zone / 24.0;
+    time.localTime = splitJulianDay(local, time) * 24.0;
     chart.daylightSaving = rule != nullptr ? rule->hoursInForce(chart) : 0;
     time.localTime += chart.daylightSaving;
     if (time.localTime >= 24.0) {
         time.localTime -= 24.0;
-        addDays(time, 1);
+        splitJulianDay(local + 1.0, time);
     }
     time.utHours = time.localTime - chart.zone - chart.daylightSaving;
     chart.integerJulianDay = integerJulianDay(time);
@@ -111,7 +110,7 @@ void JulianDayToDate(Chart& chart, const SavingTimeRule* rule)
 int Weekday(const Chart& chart)
 {
     const bool beforeSunrise = chart.sunrise && chart.time.localTime < *chart.sunrise;
-    return ModFrom(7, 0, chart.integerJulianDay + 2 - (beforeSunrise ? 1 : 0)) + 1;
+    return ModFrom(7, 0, chart.integerJulianDay % 7 + 2 - (beforeSunrise ? 1 : 0)) + 1;
 }
 
 void addDays(DateTimeRecord& record, int days)

@@ -70,7 +70,8 @@ void JulianDayToDate(Chart& chart, const SavingTimeRule* rule = nullptr);
 [[nodiscard]] int Weekday(const Chart& chart);
 
 /// The civil date `days` after the record's date, across month and year ends and the change of
-/// calendar. The clock time stays.
+/// calendar. The clock time stays. 1582 October 15 counts from its Julian day, as everywhere, so
+/// the day before it is October 24; a walk over many days counts days instead of dates.
 void addDays(DateTimeRecord& record, int days);
 
 /// Days in a month of the year (historical numbering) in the calendar in force then.

@@ -58,7 +58,7 @@ double deltaTSeconds(int year, int month)
         return 0.00325 * years * years - 56.6;
     }
     if (year < kFirstTableYear) {
-        const double u = (year - 2000) * 0.01;
+        const double u = (double(year) - 2000.0) * 0.01;
         return year < 948 ? 2715.6 + 573.36 * u + 46.5 * u * u : 50.6 + 67.5 * u + 22.5 * u * u;
     }
     const std::size_t i = std::size_t(year - kFirstTableYear) / 2;
