@@ -88,7 +88,9 @@ public:
     {
         // What an earlier process of this number left behind is of no use to anybody.
         ::unlink(name_.c_str());
-        Descriptor file(::open(name_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+        // Nobody else sees the bytes before the permissions of the previous file are set.
+        Descriptor file(::open(name_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC,
+                               mode ? mode_t{0600} : mode_t{0666}));
         if (file.number() < 0) {
             return systemError(target_, "cannot create a file beside it", errno);
         }
@@ -141,7 +143,8 @@ void flushFolder(const fs::path& path)
 
 Result<std::vector<std::uint8_t>> readFile(const fs::path& path, std::uintmax_t largest)
 {
-    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    // Without O_NONBLOCK a named pipe would wait for a writer here.
+    const Descriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     if (file.number() < 0) {
         return systemError(path, "cannot open", errno);
     }
@@ -195,6 +198,10 @@ Result<void> writeFileSafely(const fs::path& path, std::span<const std::uint8_t>
     struct stat status = {};
     if (::stat(target.c_str(), &status) == 0) {
         mode = status.st_mode & 07777;
+        // A rename would replace a write-protected file all the same.
+        if (::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0) {
+            return systemError(path, "cannot write", errno);
+        }
     } else if (errno != ENOENT) {
         return systemError(path, "cannot look at", errno);
     }

@@ -28,9 +28,9 @@ enum class WriteStep
 };
 
 /// Replaces a file as a whole: temporary file in the same folder, flushed to disk, previous file
-/// kept under its backup name, then renamed. The permissions of the previous file are kept. A
-/// failure leaves the old file as it was, removes the temporary file and says why. `afterStep` is
-/// called after each step that was done.
+/// kept under its backup name, then renamed. The permissions of the previous file are kept, and a
+/// write-protected file is not replaced. A failure leaves the old file as it was, removes the
+/// temporary file and says why. `afterStep` is called after each step that was done.
 [[nodiscard]] Result<void> writeFileSafely(const std::filesystem::path& path,
                                            std::span<const std::uint8_t> bytes,
                                            const std::function<void(WriteStep)>& afterStep = {});
