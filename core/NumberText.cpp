@@ -1,6 +1,7 @@
 #include "core/NumberText.h"
 
 #include "core/DateTime.h"
+#include "core/FileText.h"
 
 #include <algorithm>
 #include <array>
@@ -46,7 +47,7 @@ std::string_view withoutBlanks(std::string_view text)
 
 std::string quoted(std::string_view text)
 {
-    return "'" + std::string(text.substr(0, 60)) + "'";
+    return "'" + std::string(cutUtf8(text, 60)) + "'";
 }
 
 std::vector<std::string_view> splitAt(std::string_view text, char separator)
@@ -65,21 +66,21 @@ std::vector<std::string_view> splitAt(std::string_view text, char separator)
 // "MM" or "MM:SS" or "MM:SS.f" after a whole unit, as a fraction of that unit.
 std::optional<double> parseMinutes(const std::vector<std::string_view>& parts, std::size_t first)
 {
-    if (parts.size() <= first || parts.size() > first + 2) {
+    if (parts.size() <= first || parts.size() > first + 2 || !allDigits(parts[first]) ||
+        parts[first].size() > 2) {
         return std::nullopt;
     }
-    const std::optional<int> minutes = allDigits(parts[first]) && parts[first].size() <= 2
-                                           ? parseInteger(parts[first])
-                                           : std::nullopt;
+    const int minutes = readLeadingInteger(parts[first]);
     std::optional<double> seconds = 0.0;
     if (parts.size() == first + 2) {
         const std::string_view text = parts[first + 1];
-        seconds = !text.empty() && digit(text.front()) ? parseNumber(text) : std::nullopt;
+        const bool plain = text.find_first_not_of("0123456789.") == std::string_view::npos;
+        seconds = plain && !text.empty() && digit(text.front()) ? parseNumber(text) : std::nullopt;
     }
-    if (!minutes || !seconds || *minutes >= 60 || *seconds >= 60.0) {
+    if (!seconds || minutes >= 60 || *seconds >= 60.0) {
         return std::nullopt;
     }
-    return (*minutes * 60.0 + *seconds) / 3600.0;
+    return (minutes * 60.0 + *seconds) / 3600.0;
 }
 
 // "DDD<letter>MM[:SS]" with one of two letters, of which the second makes the angle negative.
@@ -114,7 +115,7 @@ Result<double> parseGeo(std::string_view text, std::string_view letters, double 
         return Error{what + " " + quoted(text) + " is beyond " + std::to_string(int(limit)) +
                      " degrees"};
     }
-    return *degrees;
+    return *degrees + 0.0; // 0W0 is no negative zero
 }
 
 } // namespace
@@ -197,11 +198,12 @@ Result<double> parseClock(std::string_view text)
     if (!allDigits(parts[0]) || parts[0].size() > 2 || !fraction) {
         return Error{"time " + quoted(text) + " is not understood; write HH:MM or HH:MM:SS"};
     }
-    const int hour = readLeadingInteger(parts[0]);
-    if (hour >= 24) {
+    // The last fraction of a second before 24:00 can round to it.
+    const double hours = readLeadingInteger(parts[0]) + *fraction;
+    if (hours >= 24.0) {
         return Error{"time " + quoted(text) + " is not between 0:00 and 23:59:59"};
     }
-    return hour + *fraction;
+    return hours;
 }
 
 Result<double> parseZone(std::string_view text)
@@ -229,7 +231,7 @@ Result<double> parseZone(std::string_view text)
     if (std::fabs(*hours) > kLargestZone) {
         return Error{"zone " + quoted(text) + " is beyond 15 hours"};
     }
-    return *hours;
+    return *hours + 0.0;
 }
 
 Result<double> parseGeoLongitude(std::string_view text)

@@ -1,11 +1,11 @@
 #include "core/Settings.h"
 
 #include "core/Angles.h"
+#include "core/FileText.h"
 #include "core/NumberText.h"
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <cmath>
 #include <optional>
 
@@ -93,12 +93,16 @@ bool isSwitch(const SettingInfo& info)
     return std::holds_alternative<bool S::*>(info.field);
 }
 
+// The C library's conversion depends on the locale: a Turkish one does not pair I with i.
+char lowerCase(char letter)
+{
+    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+}
+
 bool sameWithoutCase(std::string_view a, std::string_view b)
 {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
-        return std::tolower(static_cast<unsigned char>(x)) ==
-               std::tolower(static_cast<unsigned char>(y));
-    });
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](char x, char y) { return lowerCase(x) == lowerCase(y); });
 }
 
 std::optional<double> switchValue(std::string_view text)
@@ -185,7 +189,7 @@ std::string settingText(const Settings& settings, const SettingInfo& info)
 
 std::string_view choiceName(const SettingInfo& info, int value)
 {
-    std::string_view rest = info.choices;
+    std::string_view rest = value < info.lowest ? std::string_view{} : info.choices;
     for (int skip = value - int(info.lowest); skip > 0; --skip) {
         const std::size_t end = rest.find('|');
         rest = end == std::string_view::npos ? std::string_view{} : rest.substr(end + 1);
@@ -197,7 +201,7 @@ Result<void> setSetting(Settings& settings, std::string_view name, std::string_v
 {
     const SettingInfo* const info = findSetting(name);
     if (info == nullptr) {
-        return Error{"there is no setting '" + std::string(name.substr(0, 60)) + "'"};
+        return Error{"there is no setting '" + std::string(cutUtf8(name, 60)) + "'"};
     }
     std::optional<double> value = parseNumber(text);
     if (!value) {
@@ -206,7 +210,7 @@ Result<void> setSetting(Settings& settings, std::string_view name, std::string_v
     const bool whole =
         std::holds_alternative<double S::*>(info->field) || (value && *value == std::floor(*value));
     if (!value || !whole || *value < info->lowest || *value > info->highest) {
-        return Error{"setting " + std::string(name) + ": '" + std::string(text.substr(0, 60)) +
+        return Error{"setting " + std::string(name) + ": '" + std::string(cutUtf8(text, 60)) +
                      "' is not allowed; write " + allowedText(*info)};
     }
     storeSetting(settings, *info, *value);
