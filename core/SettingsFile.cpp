@@ -81,7 +81,12 @@ StoredSettings decodeSettings(std::span<const std::uint8_t> bytes)
     }
     const std::span<const std::uint8_t> rest = bytes.subspan(kMarkSize);
     const std::size_t count = readInteger<std::uint32_t>(rest, 0);
-    if (count < kCountSize || count > rest.size()) {
+    if (count < kCountSize) {
+        return stored;
+    }
+    if (count > rest.size()) {
+        // The file was cut inside the block; what follows the known fields is not to be trusted.
+        static_cast<void>(decodeBlock(rest.subspan(kCountSize), stored.settings));
         return stored;
     }
     const auto later = decodeBlock(rest.subspan(kCountSize, count - kCountSize), stored.settings);
