@@ -44,7 +44,8 @@ struct Sexagesimal
     int seconds;
 };
 
-// 1/7200 is added to the minutes, not the seconds, and lifts the seconds by half of one.
+// 1/7200 is added to the minutes, not the seconds: a hundred-and-twentieth of a second, so that a
+// value just below a whole second is not printed as the one before.
 Sexagesimal split(double value)
 {
     double whole = 0.0;
