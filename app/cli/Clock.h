@@ -1,0 +1,25 @@
+// The present moment and the zone of the system.
+#pragma once
+
+#include "core/Result.h"
+
+namespace kestrav::cli
+{
+
+/// The environment variable that stands for the system clock, in seconds of Unix time.
+inline constexpr char kClockVariable[] = "KESTRAV_CLOCK";
+
+/// The present moment in seconds since 1970-01-01 0h Universal Time: what KESTRAV_CLOCK holds, else
+/// the system clock. The error says that the variable holds no usable number.
+[[nodiscard]] core::Result<double> presentMoment();
+
+struct SystemZone
+{
+    double zone = 0.0;      ///< hours east of Greenwich, without saving time
+    int daylightSaving = 0; ///< hours of saving time in force
+};
+
+/// What the zone of the system is at a moment.
+[[nodiscard]] SystemZone systemZoneAt(double unixSeconds);
+
+} // namespace kestrav::cli

@@ -1,0 +1,40 @@
+#include "app/cli/Commands.h"
+
+#include "app/cli/AyanamsaCommands.h"
+#include "app/cli/ChartCommands.h"
+#include "app/cli/SettingsCommands.h"
+
+#include <array>
+
+namespace kestrav::cli
+{
+
+std::span<const Command* const> allCommands()
+{
+    static const ChartCommand chart;
+    static const PositionsCommand positions;
+    static const HousesCommand houses;
+    static const SunCommand sun;
+    static const ListSettingsCommand listSettings;
+    static const GetSettingCommand getSetting;
+    static const SetSettingCommand setSetting;
+    static const ResetSettingsCommand resetSettings;
+    static const ListAyanamsasCommand listAyanamsas;
+    static const SetAyanamsaCommand setAyanamsa;
+    static const ResetAyanamsasCommand resetAyanamsas;
+    static const std::array<const Command*, 11> kAll = {
+        &chart,      &positions,     &houses,        &sun,         &listSettings,  &getSetting,
+        &setSetting, &resetSettings, &listAyanamsas, &setAyanamsa, &resetAyanamsas};
+    return kAll;
+}
+
+std::span<const GroupInfo> commandGroups()
+{
+    static constexpr std::array<GroupInfo, 2> kGroups = {{
+        {"settings", "Show and change the stored settings"},
+        {"settings ayanamsa", "Show and change the table of ayanamsas"},
+    }};
+    return kGroups;
+}
+
+} // namespace kestrav::cli

@@ -1,0 +1,37 @@
+// The options that several commands share.
+#pragma once
+
+#include "app/cli/Command.h"
+
+#include <array>
+
+namespace kestrav::cli
+{
+
+/// The birth data of a chart.
+inline constexpr std::array<OptionInfo, 9> kBirthOptions = {{
+    {"--date", "YYYY-MM-DD", "date of birth in historical years; -0044-03-15 is in 44 BC"},
+    {"--time", "HH:MM[:SS[.f]]", "clock time of birth, 0:00 to 23:59:59"},
+    {"--zone", "+H:MM[:SS]", "zone of the clock in hours east of Greenwich; decimal hours too"},
+    {"--dst", "N", "whole hours of saving time that the clock shows, 0 to 3; 0 when not given"},
+    {"--lon", "77E13[:SS]", "geographic longitude; decimal degrees too, negative in the west"},
+    {"--lat", "28N39[:SS]", "geographic latitude; decimal degrees too, negative in the south"},
+    {"--name", "TEXT", "name of the native"},
+    {"--place", "TEXT", "name of the place, a label only"},
+    {"--now", "",
+     "the present moment instead of --date and --time; without --zone in the zone of the system"},
+}};
+
+/// Settings of one call.
+inline constexpr std::array<OptionInfo, 2> kSetOptions = {{
+    {"--set", "NAME=VALUE", "a setting for this call, which is not stored; may be repeated", true},
+    {"--language", "NAME", "language of the names for this call: english or sanskrit"},
+}};
+
+/// Options of every command.
+inline constexpr std::array<OptionInfo, 2> kCommonOptions = {{
+    {"--settings", "FILE", "the settings file to use instead of the one found"},
+    {"--json", "", "write one JSON object instead of text"},
+}};
+
+} // namespace kestrav::cli

@@ -1,0 +1,78 @@
+#include "app/cli/TextTable.h"
+
+#include <algorithm>
+#include <cassert>
+#include <cstddef>
+
+namespace kestrav::cli
+{
+
+namespace
+{
+
+constexpr std::size_t kGap = 2;
+
+void endLine(std::wstring& text)
+{
+    text.erase(text.find_last_not_of(L' ') + 1);
+    text += L'\n';
+}
+
+} // namespace
+
+void TextTable::add(std::vector<std::wstring> cells)
+{
+    assert(cells.size() == columns_.size());
+    rows_.push_back(std::move(cells));
+}
+
+std::wstring TextTable::text() const
+{
+    std::vector<std::size_t> widths;
+    std::vector<std::wstring> headings;
+    for (std::size_t i = 0; i < columns_.size(); ++i) {
+        headings.push_back(columns_[i].heading);
+        widths.push_back(columns_[i].heading.size());
+        for (const std::vector<std::wstring>& row : rows_) {
+            widths[i] = std::max(widths[i], row[i].size());
+        }
+    }
+    std::wstring text;
+    const auto addLine = [&](const std::vector<std::wstring>& cells) {
+        std::wstring line;
+        for (std::size_t i = 0; i < cells.size(); ++i) {
+            const std::wstring padding(widths[i] - cells[i].size(), L' ');
+            line += columns_[i].align == Align::Right ? padding + cells[i] : cells[i] + padding;
+            line.append(kGap, L' ');
+        }
+        endLine(line);
+        text += line;
+    };
+    addLine(headings);
+    for (const std::vector<std::wstring>& row : rows_) {
+        addLine(row);
+    }
+    return text;
+}
+
+void LabelledLines::add(std::wstring label, std::wstring value)
+{
+    lines_.emplace_back(std::move(label), std::move(value));
+}
+
+std::wstring LabelledLines::text() const
+{
+    std::size_t width = 0;
+    for (const auto& [label, value] : lines_) {
+        width = std::max(width, label.size());
+    }
+    std::wstring text;
+    for (const auto& [label, value] : lines_) {
+        std::wstring line = label + std::wstring(width - label.size() + kGap, L' ') + value;
+        endLine(line);
+        text += line;
+    }
+    return text;
+}
+
+} // namespace kestrav::cli

@@ -1,0 +1,30 @@
+// Values as text where no text form of the program fits.
+#pragma once
+
+#include "core/DateTime.h"
+
+#include <string>
+
+namespace kestrav::cli
+{
+
+/// A number with a fixed count of decimals, the same in every locale.
+[[nodiscard]] std::wstring fixedNumber(double value, int decimals);
+
+/// Clock time rounded to the second, with the marker and the 12-hour rules of FormatClock but no
+/// blank where it has no marker.
+[[nodiscard]] std::wstring clockSeconds(double hours, bool twelveHour);
+
+/// A date as it is typed, with the year BC where it is one.
+[[nodiscard]] std::wstring dateText(const core::DateTimeRecord& record);
+
+/// A geographic coordinate in degrees, minutes and seconds with its letter.
+[[nodiscard]] std::wstring geoText(double degrees, wchar_t positive, wchar_t negative);
+
+/// Nakshatra 0 to 26 of a nakshatra position.
+[[nodiscard]] int nakshatraOf(double position);
+
+/// Quarter 1 to 4 of the nakshatra of a nakshatra position.
+[[nodiscard]] int padaOf(double position);
+
+} // namespace kestrav::cli
