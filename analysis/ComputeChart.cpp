@@ -68,6 +68,7 @@ void storeDay(core::Chart& chart, astro::EphemerisContext& context)
     const astro::Observer observer = astro::observerOf(chart);
     chart.sunrise = astro::sunEvent(context, chart.time, observer, astro::HorizonEvent::Rise);
     chart.sunset = astro::sunEvent(context, chart.time, observer, astro::HorizonEvent::Set);
+    chart.vedicDay = astro::vedicDay(context, chart.time, observer);
     chart.weekday = core::Weekday(chart);
 }
 

@@ -158,8 +158,8 @@ std::optional<double> bodyEvent(EphemerisContext& context, const core::DateTimeR
     return earliest;
 }
 
-std::optional<VedicDay> vedicDay(EphemerisContext& context, const core::DateTimeRecord& moment,
-                                 const Observer& observer)
+std::optional<core::VedicDay> vedicDay(EphemerisContext& context,
+                                       const core::DateTimeRecord& moment, const Observer& observer)
 {
     const auto eventOn = [&](int days, HorizonEvent event) -> std::optional<double> {
         core::DateTimeRecord date = moment;
@@ -179,7 +179,7 @@ std::optional<VedicDay> vedicDay(EphemerisContext& context, const core::DateTime
         if (!sunset || !next) {
             return std::nullopt;
         }
-        return VedicDay{*sunrise, *sunset, *next};
+        return core::VedicDay{*sunrise, *sunset, *next};
     }
     return std::nullopt;
 }

@@ -48,15 +48,6 @@ enum class HorizonEvent
                                               const Observer& observer, int point,
                                               HorizonEvent event);
 
-/// The astrological day that runs at a moment, in local clock hours from 0h of the civil date of
-/// the moment; hours of the day before are below 0, those of the day after above 24.
-struct VedicDay
-{
-    double sunrise;     ///< the last sunrise at or before the moment
-    double sunset;      ///< the sunset after it
-    double nextSunrise; ///< the sunrise after that
-};
-
 /// The day running at a record's local time; nothing where the Sun does not rise or set.
 [[nodiscard]] std::optional<VedicDay>
 vedicDay(EphemerisContext& context, const core::DateTimeRecord& moment, const Observer& observer);

@@ -33,6 +33,15 @@ enum class Motion : int
 /// The degree in sign of a point that was not computed.
 inline constexpr double kNotComputed = -1.0;
 
+/// The astrological day that runs at a moment, in local clock hours from 0h of the civil date of
+/// the moment; hours of the day before are below 0, those of the day after above 24.
+struct VedicDay
+{
+    double sunrise = 0.0;     ///< the last sunrise at or before the moment
+    double sunset = 0.0;      ///< the sunset after it
+    double nextSunrise = 0.0; ///< the sunrise after that
+};
+
 /// Twelve angles, house 1 first.
 using HouseArray = std::array<double, 12>;
 
@@ -56,7 +65,8 @@ struct Chart
     double T = 1.0;                ///< Julian centuries from 1900 January 0.5, Delta T contained
     std::optional<double> sunrise; ///< local clock hours on the civil date; none near the poles
     std::optional<double> sunset;
-    int weekday = 1; ///< 1 = Sunday to 7 = Saturday
+    std::optional<VedicDay> vedicDay; ///< the day running at the moment; none near the poles
+    int weekday = 1;                  ///< 1 = Sunday to 7 = Saturday
     double ayanamsa = 0.0;
     double nutation = 0.0; ///< nutation in longitude, degrees
     double cosObliquity = 1.0;
