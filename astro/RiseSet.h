@@ -49,7 +49,7 @@ enum class HorizonEvent
                                               HorizonEvent event);
 
 /// The day running at a record's local time; nothing where the Sun does not rise or set.
-[[nodiscard]] std::optional<VedicDay>
+[[nodiscard]] std::optional<core::VedicDay>
 vedicDay(EphemerisContext& context, const core::DateTimeRecord& moment, const Observer& observer);
 
 } // namespace kestrav::astro

@@ -60,6 +60,9 @@ struct Chart
     std::wstring zoneText;
     std::wstring timeText;
 
+    /// False for a chart of bare positions, of which neither moment nor place is known.
+    bool hasMoment = true;
+
     // What belongs to the moment and the place.
     int integerJulianDay = 0;      ///< integer part of the Julian day of 0h local date
     double T = 1.0;                ///< Julian centuries from 1900 January 0.5, Delta T contained
