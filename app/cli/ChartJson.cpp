@@ -163,7 +163,7 @@ Json housesJson(const ComputedChart& computed)
 
 Json sunJson(const ComputedChart& computed)
 {
-    const std::optional<astro::VedicDay>& day = computed.day;
+    const std::optional<core::VedicDay>& day = computed.day;
     Json running;
     running["sunrise"] = day ? number(day->sunrise) : Json();
     running["sunset"] = day ? number(day->sunset) : Json();
