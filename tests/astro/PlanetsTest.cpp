@@ -1,4 +1,3 @@
-#include "astro/Bodies.h"
 #include "astro/Engine.h"
 #include "astro/Pluto.h"
 #include "core/Angles.h"
@@ -9,7 +8,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <ostream>
 
@@ -136,22 +134,6 @@ TEST(Pluto, SunOfJ2000DiffersFromTheSunOfDateByThePrecession)
         EXPECT_NEAR(arcSeconds(fixed.longitude + precession, context.result.longitude), 20.5, 4.0)
             << T;
         EXPECT_NEAR(fixed.distance, context.result.distance, 1e-5) << T;
-    }
-}
-
-TEST(PlanetPosition, PointsAndCodesBelongTogether)
-{
-    const std::array<std::array<int, 2>, 9> pairs = {{{core::kSun, 1},
-                                                      {core::kMars, 3},
-                                                      {core::kMercury, 4},
-                                                      {core::kJupiter, 5},
-                                                      {core::kVenus, 6},
-                                                      {core::kSaturn, 7},
-                                                      {core::kUranus, 8},
-                                                      {core::kNeptune, 9},
-                                                      {core::kPluto, 10}}};
-    for (const auto& [point, code] : pairs) {
-        EXPECT_EQ(codeOfPoint(point), code);
     }
 }
 
