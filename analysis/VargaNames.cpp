@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cassert>
-#include <cctype>
 #include <string>
 
 namespace kestrav::analysis
@@ -64,12 +63,18 @@ const VargaInfo& info(int varga)
     return core::at(kVargas, varga);
 }
 
+// The C library's conversion depends on the locale: a Turkish one does not pair I with i.
+template <typename Letter>
+constexpr int lowerCase(Letter letter)
+{
+    return letter >= 'A' && letter <= 'Z' ? letter - 'A' + 'a' : letter;
+}
+
 // The names are plain letters, so a byte stands for a character.
 bool same(std::wstring_view name, std::string_view text)
 {
-    return std::equal(name.begin(), name.end(), text.begin(), text.end(), [](wchar_t a, char b) {
-        return std::tolower(int(a)) == std::tolower(static_cast<unsigned char>(b));
-    });
+    return std::equal(name.begin(), name.end(), text.begin(), text.end(),
+                      [](wchar_t a, char b) { return lowerCase(a) == lowerCase(b); });
 }
 
 } // namespace
