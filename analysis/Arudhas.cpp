@@ -17,9 +17,12 @@ using core::norm12;
 constexpr int kArudhaHouses = 12;
 
 // The sign as far from `lordSign` as that is from `from`, moved on when it falls on `from` or
-// opposite to it.
+// opposite to it. 0 when either is not known.
 int padaSign(int from, int lordSign)
 {
+    if (from == 0 || lordSign == 0) {
+        return 0;
+    }
     const int distance = core::ModFrom(12, 0, lordSign - from);
     const int pada = norm12(lordSign + distance);
     const int fromHouse = core::ModFrom(12, 0, pada - from);
@@ -60,6 +63,9 @@ int pointOfHouse(int house)
 std::array<int, 12> arudhaSigns(const SignView& view, bool coLords)
 {
     std::array<int, 12> signs{};
+    if (view.sign[core::kAscendant] == 0) {
+        return signs;
+    }
     for (int house = 1; house <= kArudhaHouses; ++house) {
         const int sign = norm12(view.sign[core::kAscendant] + house - 1);
         const int lord = lordOfSign(view, sign, coLords);
@@ -78,6 +84,10 @@ void computeArudhaPoints(core::Chart& chart, const core::Settings& settings)
     const SignView view = signView(chart, core::kRashi, settings);
     const std::array<int, 12> signs = arudhaSigns(view, settings.coLords);
     const auto store = [&](int point, int sign) {
+        if (sign == 0) {
+            at(chart.degreeInSign, point) = core::kNotComputed;
+            return;
+        }
         // The sum must not round up into the next sign.
         const double end = std::nextafter(sign * 30.0, 0.0);
         const double degree = chart.degreeInSign[core::kAscendant];
@@ -92,15 +102,16 @@ void computeArudhaPoints(core::Chart& chart, const core::Settings& settings)
 
 void storeArudhaSigns(core::Chart& chart, int varga, const core::Settings& settings)
 {
-    if (!chart.computed(core::kArudhaLagna)) {
-        return;
-    }
     const std::array<int, 12> signs =
         arudhaSigns(signView(chart, varga, settings), settings.coLords);
-    core::PointArray<core::VargaPlacement>& placements = at(chart.vargas, varga);
-    placements[core::kArudhaLagna].sign = signs[0];
+    const auto store = [&](int point, int sign) {
+        if (chart.computed(point) && sign != 0) {
+            at(at(chart.vargas, varga), point).sign = sign;
+        }
+    };
+    store(core::kArudhaLagna, signs[0]);
     for (int house = 1; house <= kArudhaHouses; ++house) {
-        at(placements, pointOfHouse(house)).sign = at(signs, house - 1);
+        store(pointOfHouse(house), at(signs, house - 1));
     }
 }
 

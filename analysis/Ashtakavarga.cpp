@@ -1,5 +1,6 @@
 #include "analysis/Ashtakavarga.h"
 
+#include "analysis/Vargas.h"
 #include "core/Angles.h"
 #include "core/SignData.h"
 
@@ -78,11 +79,6 @@ constexpr auto kBinduMasks = [] {
     return masks;
 }();
 
-int signIn(const core::Chart& chart, int varga, int point)
-{
-    return varga == core::kRashi ? at(chart.rashi, point) : at(at(chart.vargas, varga), point).sign;
-}
-
 Pinda pindaOf(const core::Chart& chart, int varga, const SignRow12& row)
 {
     Pinda pinda;
@@ -90,7 +86,8 @@ Pinda pindaOf(const core::Chart& chart, int varga, const SignRow12& row)
         pinda.rashi += row[sign] * kSignWeights[sign];
     }
     for (int planet = core::kSun; planet <= core::kSaturn; ++planet) {
-        pinda.graha += at(kPlanetWeights, planet) * at(row, signIn(chart, varga, planet) - 1);
+        const int sign = signInVarga(chart, varga, planet);
+        pinda.graha += sign == 0 ? 0 : at(kPlanetWeights, planet) * at(row, sign - 1);
     }
     return pinda;
 }
@@ -127,7 +124,10 @@ SignRow12 countOccupants(const core::Chart& chart, int varga)
 {
     SignRow12 occupants{};
     for (int planet = core::kSun; planet <= core::kSaturn; ++planet) {
-        ++at(occupants, signIn(chart, varga, planet) - 1);
+        const int sign = signInVarga(chart, varga, planet);
+        if (sign != 0) {
+            ++at(occupants, sign - 1);
+        }
     }
     return occupants;
 }
@@ -139,8 +139,8 @@ Ashtakavarga computeAshtakavarga(const core::Chart& chart, int varga, bool withR
     for (int receiver = 0; receiver < kAshtakavargaPoints; ++receiver) {
         SignRow12& row = at(result.bindus, receiver);
         for (int contributor = 0; contributor < kAshtakavargaPoints; ++contributor) {
-            const int from = signIn(chart, varga, contributor);
-            for (int sign = 0; sign < 12; ++sign) {
+            const int from = signInVarga(chart, varga, contributor);
+            for (int sign = 0; from != 0 && sign < 12; ++sign) {
                 at(row, sign) += givesBindu(receiver, contributor, norm12(sign - from + 2)) ? 1 : 0;
             }
         }
@@ -201,8 +201,9 @@ Kakshya kakshyaOf(double degreeInSign)
 bool kakshyaBindu(const core::Chart& chart, int planet, double longitude)
 {
     const Kakshya kakshya = kakshyaOf(core::degreeInSignOf(longitude));
-    const int from = at(chart.rashi, kakshya.lord);
-    return givesBindu(planet, kakshya.lord, norm12(core::signOfLongitude(longitude) - from + 1));
+    const int from = signInVarga(chart, core::kRashi, kakshya.lord);
+    return from != 0 &&
+           givesBindu(planet, kakshya.lord, norm12(core::signOfLongitude(longitude) - from + 1));
 }
 
 } // namespace kestrav::analysis

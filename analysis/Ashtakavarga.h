@@ -51,8 +51,9 @@ struct Ashtakavarga
 /// The number of bindus that a receiver has in every chart.
 [[nodiscard]] int binduTotal(int receiver);
 
-/// The tables of a varga (0 is the rashi) from the signs of points 0 to 7 in it, which must be
-/// there; with reductions also the trikona and ekadhipatya reductions and the pindas.
+/// The tables of a varga (0 is the rashi) from the signs of points 0 to 7 in it; with reductions
+/// also the trikona and ekadhipatya reductions and the pindas. A point without a position gives no
+/// bindu and occupies no sign, so that the rows do not reach their totals.
 [[nodiscard]] Ashtakavarga computeAshtakavarga(const core::Chart& chart, int varga,
                                                bool withReductions);
 

@@ -107,6 +107,9 @@ double grahaAspectShare(int planet, int house, const core::Settings& settings)
 
 bool fullyAspects(const core::Chart& chart, int planet, int sign, const core::Settings& settings)
 {
+    if (!chart.computed(planet)) {
+        return false;
+    }
     const int house = core::norm12(sign - core::at(chart.rashi, planet) + 1);
     return fullGrahaAspect(planet, house, settings);
 }
@@ -118,6 +121,9 @@ double aspectValue(int planet, double k)
 
 double aspectValueOn(const core::Chart& chart, int planet, double longitude)
 {
+    if (!chart.computed(planet)) {
+        return 0.0;
+    }
     return aspectValue(planet, core::Normalize360(longitude - core::at(chart.longitude, planet)));
 }
 

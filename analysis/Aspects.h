@@ -16,7 +16,8 @@ namespace kestrav::analysis
 /// or 0. Nodes cast full aspects only.
 [[nodiscard]] double grahaAspectShare(int planet, int house, const core::Settings& settings);
 
-/// Whether a planet of the chart fully aspects a sign in the rashi.
+/// Whether a planet of the chart fully aspects a sign in the rashi. One without a position does
+/// not.
 [[nodiscard]] bool fullyAspects(const core::Chart& chart, int planet, int sign,
                                 const core::Settings& settings);
 
@@ -24,7 +25,7 @@ namespace kestrav::analysis
 /// (aspected - aspecting, 0 to under 360).
 [[nodiscard]] double aspectValue(int planet, double k);
 
-/// Value of the aspect of a planet of the chart on a longitude.
+/// Value of the aspect of a planet of the chart on a longitude; 0 for one without a position.
 [[nodiscard]] double aspectValueOn(const core::Chart& chart, int planet, double longitude);
 
 } // namespace kestrav::analysis

@@ -2,6 +2,7 @@
 
 #include "analysis/Aspects.h"
 #include "analysis/DignityTables.h"
+#include "analysis/Vargas.h"
 #include "core/Angles.h"
 #include "core/DisplayFlags.h"
 #include "core/PointNames.h"
@@ -23,14 +24,15 @@ bool isNode(int point)
     return point == core::kRahu || point == core::kKetu;
 }
 
-// Two planets in 2, 3, 4, 10, 11, 12 from each other are temporary friends.
+// Two planets in 2, 3, 4, 10, 11, 12 from each other are temporary friends. Without both signs
+// (0) the natural relationship stands alone.
 int compoundOf(int planet, int lord, int planetSign, int lordSign, const core::Settings& settings)
 {
     if (planet == lord) {
         return kOwn;
     }
     const int natural = naturalRelationship(planet, lord);
-    if (settings.naturalRelationshipsOnly) {
+    if (settings.naturalRelationshipsOnly || planetSign == 0 || lordSign == 0) {
         return natural;
     }
     const int d = norm12(planetSign - lordSign + 1);
@@ -44,9 +46,10 @@ int houseFrom(int sign, int reference)
 
 bool inKendra(const core::Chart& chart, int planet)
 {
-    const int sign = at(chart.rashi, planet);
+    const int sign = signInVarga(chart, core::kRashi, planet);
     for (const int reference : {core::kAscendant, core::kMoon}) {
-        if ((houseFrom(sign, at(chart.rashi, reference)) - 1) % 3 == 0) {
+        const int first = signInVarga(chart, core::kRashi, reference);
+        if (sign != 0 && first != 0 && (houseFrom(sign, first) - 1) % 3 == 0) {
             return true;
         }
     }
@@ -99,7 +102,8 @@ void computeCompoundRelationships(core::Chart& chart, const core::Settings& sett
     for (int planet = core::kSun; planet <= core::kSaturn; ++planet) {
         for (int lord = core::kSun; lord <= core::kSaturn; ++lord) {
             at(at(chart.compound, planet), lord) =
-                compoundOf(planet, lord, at(chart.rashi, planet), at(chart.rashi, lord), settings);
+                compoundOf(planet, lord, signInVarga(chart, core::kRashi, planet),
+                           signInVarga(chart, core::kRashi, lord), settings);
         }
     }
 }
@@ -111,9 +115,8 @@ int relationship(const core::Chart& chart, int planet, int lord, int varga, int 
         return nodeRelationship(planet, sign, settings.nodeDignityScheme);
     }
     if (varga != core::kRashi && settings.vargaCompoundRelationships) {
-        const core::PointArray<core::VargaPlacement>& placements = at(chart.vargas, varga);
-        return compoundOf(planet, lord, at(placements, planet).sign, at(placements, lord).sign,
-                          settings);
+        return compoundOf(planet, lord, signInVarga(chart, varga, planet),
+                          signInVarga(chart, varga, lord), settings);
     }
     return at(at(chart.compound, planet), lord);
 }
@@ -182,14 +185,16 @@ int debilitationCancelledBy(const core::Chart& chart, int planet, const core::Se
     if (exaltedHere != 0 && inKendra(chart, exaltedHere)) {
         return 3;
     }
-    if (at(chart.rashi, lord) == sign || fullyAspects(chart, lord, sign, settings)) {
+    if (signInVarga(chart, core::kRashi, lord) == sign ||
+        fullyAspects(chart, lord, sign, settings)) {
         return 4;
     }
     if (at(at(chart.vargas, core::kNavamsha), planet).sign == exaltationSign(planet, 0)) {
         return 5;
     }
     for (int other = core::kSun; other <= core::kSaturn; ++other) {
-        if (other != planet && at(chart.rashi, other) == debilitationSign(other, 0) &&
+        const int place = signInVarga(chart, core::kRashi, other);
+        if (other != planet && place == debilitationSign(other, 0) &&
             fullyAspects(chart, other, sign, settings)) {
             return 6;
         }
@@ -230,7 +235,8 @@ double combustionOrb(int planet, bool retrograde)
 bool isCombust(const core::Chart& chart, const core::Chart& sunChart, int planet,
                const core::Settings& settings)
 {
-    if (planet < core::kMoon || planet > core::kSaturn) {
+    if (planet < core::kMoon || planet > core::kSaturn || !chart.computed(planet) ||
+        !sunChart.computed(core::kSun)) {
         return false;
     }
     const double difference =

@@ -1,6 +1,7 @@
 #include "analysis/FunctionalNature.h"
 
 #include "analysis/DignityTables.h"
+#include "analysis/Vargas.h"
 #include "core/Angles.h"
 
 namespace kestrav::analysis
@@ -74,19 +75,27 @@ Nature natureOfHouse(int house)
     return nature;
 }
 
+int rashiOf(const core::Chart& chart, int point)
+{
+    return signInVarga(chart, core::kRashi, point);
+}
+
 bool lordStandsIn(const core::Chart& chart, int house, int sign)
 {
     const int lord = signLord(core::norm12(chart.rashi[core::kAscendant] + house - 1));
-    return at(chart.rashi, lord) == sign;
+    return rashiOf(chart, lord) == sign;
 }
 
 Nature natureOfNode(const core::Chart& chart, const NatureTable& table, int node)
 {
-    const int sign = at(chart.rashi, node);
+    const int sign = rashiOf(chart, node);
+    if (sign == 0) {
+        return {};
+    }
     const int house = core::norm12(sign - chart.rashi[core::kAscendant] + 1);
     Nature nature = natureOfHouse(house);
     for (int planet = core::kSun; planet <= core::kSaturn; ++planet) {
-        if (at(chart.rashi, planet) == sign) {
+        if (rashiOf(chart, planet) == sign) {
             const Nature& joined = at(table, planet);
             nature.benefic = nature.benefic || joined.benefic;
             nature.malefic = nature.malefic || joined.malefic;
@@ -109,6 +118,9 @@ Nature natureOfNode(const core::Chart& chart, const NatureTable& table, int node
 NatureTable initialNatures(int ascendant)
 {
     NatureTable table{};
+    if (ascendant < 1 || ascendant > 12) {
+        return table;
+    }
     for (int planet = core::kSun; planet <= core::kSaturn; ++planet) {
         at(table, planet) = natureOf(at(at(kNatures, ascendant - 1), planet - 1));
     }
@@ -117,6 +129,9 @@ NatureTable initialNatures(int ascendant)
 
 NatureTable chartNatures(const core::Chart& chart)
 {
+    if (!chart.computed(core::kAscendant)) {
+        return {};
+    }
     NatureTable table = initialNatures(chart.rashi[core::kAscendant]);
     const Nature rahu = natureOfNode(chart, table, core::kRahu);
     const Nature ketu = natureOfNode(chart, table, core::kKetu);

@@ -1,6 +1,7 @@
 #include "analysis/SignStrength.h"
 
 #include "analysis/DignityTables.h"
+#include "analysis/Vargas.h"
 
 namespace kestrav::analysis
 {
@@ -46,7 +47,8 @@ bool holdsExalted(const SignView& view, int sign)
 
 bool lordInOtherParity(const SignView& view, int sign)
 {
-    return (at(view.sign, signLord(sign)) - sign) % 2 != 0;
+    const int place = at(view.sign, signLord(sign));
+    return place != 0 && (place - sign) % 2 != 0;
 }
 
 } // namespace
@@ -56,10 +58,10 @@ SignView signView(const core::Chart& chart, int varga, const core::Settings& set
     SignView view;
     view.nodeScheme = settings.nodeDignityScheme;
     for (int point = 0; point <= core::kKetu; ++point) {
-        const core::VargaPlacement& placement = at(at(chart.vargas, varga), point);
-        const bool rashi = varga == core::kRashi;
-        at(view.sign, point) = rashi ? at(chart.rashi, point) : placement.sign;
-        at(view.degree, point) = rashi ? at(chart.degreeInSign, point) : placement.position;
+        at(view.sign, point) = signInVarga(chart, varga, point);
+        at(view.degree, point) = varga == core::kRashi
+                                     ? at(chart.degreeInSign, point)
+                                     : at(at(chart.vargas, varga), point).position;
     }
     return view;
 }
@@ -71,6 +73,9 @@ int signModality(int sign)
 
 bool signAspects(int from, int to)
 {
+    if (from == 0 || to == 0) {
+        return false;
+    }
     const int distance = (to - from + 12) % 12;
     switch (signModality(from)) {
     case 0:
@@ -102,6 +107,9 @@ int strongerCoLord(const SignView& view, int sign, int planet, int node,
 {
     const int planetSign = at(view.sign, planet);
     const int nodeSign = at(view.sign, node);
+    if (planetSign == 0 || nodeSign == 0) {
+        return planetSign == 0 ? node : planet;
+    }
     if ((planetSign == sign) != (nodeSign == sign)) {
         return planetSign == sign ? node : planet;
     }

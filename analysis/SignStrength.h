@@ -11,7 +11,8 @@
 namespace kestrav::analysis
 {
 
-/// The signs and the degrees in sign of points 0 to 9 in one divisional chart.
+/// The signs and the degrees in sign of points 0 to 9 in one divisional chart. The sign of a point
+/// that was not computed is 0; it stands in no sign and aspects none.
 struct SignView
 {
     std::array<int, 10> sign = {};
@@ -40,7 +41,8 @@ struct SignView
 /// positive when the first lord wins, negative when the second does, 0 when it does not decide.
 using CoLordRule = std::function<int(int first, int second)>;
 
-/// The stronger of the planet and the node that share a sign; the planet when nothing decides.
+/// The stronger of the planet and the node that share a sign; the planet when nothing decides, and
+/// the other one when one was not computed.
 [[nodiscard]] int strongerCoLord(const SignView& view, int sign, int planet, int node,
                                  const CoLordRule& yearsRule = {});
 

@@ -259,12 +259,23 @@ void computeAllVargas(core::Chart& chart, const core::Settings& settings)
             const double degree = at(chart.degreeInSign, point);
             if (degree >= 0.0 && degree < 30.0) {
                 computeVarga(chart, varga, point, settings);
+            } else {
+                at(at(chart.vargas, varga), point) = {};
+                at(at(chart.nearBoundary, varga), point) = false;
             }
         }
         if (settings.arudhasInVargas) {
             storeArudhaSigns(chart, varga, settings);
         }
     }
+}
+
+int signInVarga(const core::Chart& chart, int varga, int point)
+{
+    if (!chart.computed(point)) {
+        return 0;
+    }
+    return varga == core::kRashi ? at(chart.rashi, point) : at(at(chart.vargas, varga), point).sign;
 }
 
 int twentySecondDrekkanaSign(const core::Chart& chart, int point)

@@ -129,6 +129,9 @@ void computeVimshopaka(core::Chart& chart, const core::Settings& settings)
     chart.vimshopakaPositional = {};
     for (int varga = 0; varga < core::kScoredVargas; ++varga) {
         for (int point = 0; point <= core::kKetu; ++point) {
+            if (!chart.computed(point)) {
+                continue;
+            }
             core::VargaPlacement& placement = at(at(chart.vargas, varga), point);
             const VimshopakaScore score = vimshopakaScore(chart, varga, point, settings);
             for (int set = 0; score.factor > 0 && set <= at(kLevels, varga); ++set) {

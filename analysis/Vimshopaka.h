@@ -48,7 +48,8 @@ struct VimshopakaScore
                                               const core::Settings& settings);
 
 /// Fills the totals and positional sums of the planets and the dignity codes of the placements of
-/// points 0 to 9 in vargas 0 to 15. Needs all vargas and the compound relationships.
+/// points 0 to 9 in vargas 0 to 15. Needs all vargas and the compound relationships; a point
+/// without a position scores nothing and its records stay as they are.
 void computeVimshopaka(core::Chart& chart, const core::Settings& settings);
 
 /// A total as points out of 20.
