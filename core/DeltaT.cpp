@@ -42,7 +42,7 @@ constexpr double tableTotal()
 {
     double total = 0.0;
     for (const float seconds : kDeltaTSeconds) {
-        total += double{seconds};
+        total += static_cast<double>(seconds);
     }
     return total;
 }
@@ -62,9 +62,9 @@ double deltaTSeconds(int year, int month)
         return year < 948 ? 2715.6 + 573.36 * u + 46.5 * u * u : 50.6 + 67.5 * u + 22.5 * u * u;
     }
     const std::size_t i = std::size_t(year - kFirstTableYear) / 2;
-    const double f = (year % 2 != 0 ? 0.5 : 0.0) + (month - 1) / 24.0;
-    const double here = double{kDeltaTSeconds[i]};
-    return here - f * (here - double{kDeltaTSeconds[i + 1]});
+    const double f = (year % 2 != 0 ? 0.5 : 0.0) + (month - 1.0) / 24.0;
+    const double here = static_cast<double>(kDeltaTSeconds[i]);
+    return here - f * (here - static_cast<double>(kDeltaTSeconds[i + 1]));
 }
 
 void DeltaT(DateTimeRecord& record, bool on)

@@ -47,7 +47,7 @@ std::string_view withoutBlanks(std::string_view text)
 
 std::string quoted(std::string_view text)
 {
-    return "'" + std::string(cutUtf8(text, 60)) + "'";
+    return std::string("'").append(cutUtf8(text, 60)).append("'");
 }
 
 std::vector<std::string_view> splitAt(std::string_view text, char separator)

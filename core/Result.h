@@ -22,7 +22,11 @@ struct Error
         if (file.empty()) {
             return message;
         }
-        return file + (line > 0 ? ":" + std::to_string(line) : "") + ": " + message;
+        std::string place = file;
+        if (line > 0) {
+            place.append(":").append(std::to_string(line));
+        }
+        return place + ": " + message;
     }
 };
 
