@@ -1,0 +1,226 @@
+#include "analysis/Sahams.h"
+
+#include "analysis/DayParts.h"
+#include "analysis/DignityTables.h"
+#include "analysis/StorePoint.h"
+#include "core/Angles.h"
+
+#include <cstddef>
+
+namespace kestrav::analysis
+{
+
+namespace
+{
+
+using core::at;
+using core::norm12;
+using core::Normalize360;
+
+enum class Kind
+{
+    Body,       // number: point index
+    House,      // number: house; its longitude is the ascendant's degree in the house's sign
+    HouseLord,  // number: house, counted by sign
+    Dispositor, // number: point index; the lord of the sign it stands in
+    Saham,      // number: place in the list
+    Degree,     // number: the longitude itself
+};
+
+struct Term
+{
+    Kind kind;
+    int number;
+};
+
+// The value is a - b + c.
+struct Formula
+{
+    Term a;
+    Term b;
+    Term c;
+};
+
+struct Saham
+{
+    std::wstring_view name;
+    Formula day;
+    Formula night;
+};
+
+constexpr Saham reversed(std::wstring_view name, Term a, Term b, Term c)
+{
+    return {name, {a, b, c}, {b, a, c}};
+}
+
+constexpr Saham alike(std::wstring_view name, Term a, Term b, Term c)
+{
+    return {name, {a, b, c}, {a, b, c}};
+}
+
+constexpr Term house(int number)
+{
+    return {Kind::House, number};
+}
+
+constexpr Term lord(int number)
+{
+    return {Kind::HouseLord, number};
+}
+
+constexpr Term kAsc = {Kind::Body, core::kAscendant};
+constexpr Term kSun = {Kind::Body, core::kSun};
+constexpr Term kMoon = {Kind::Body, core::kMoon};
+constexpr Term kMars = {Kind::Body, core::kMars};
+constexpr Term kMerc = {Kind::Body, core::kMercury};
+constexpr Term kJup = {Kind::Body, core::kJupiter};
+constexpr Term kVen = {Kind::Body, core::kVenus};
+constexpr Term kSat = {Kind::Body, core::kSaturn};
+constexpr Term kSunLord = {Kind::Dispositor, core::kSun};
+constexpr Term kMoonLord = {Kind::Dispositor, core::kMoon};
+constexpr Term kMidCancer = {Kind::Degree, 105};
+
+constexpr int kSamartha = 6;
+constexpr Term kPunya = {Kind::Saham, 0};
+constexpr Term kShastra = {Kind::Saham, 17};
+
+// After Tajika Neelakanthi. `alike` rows are the same by day and night. Sahams that end in their
+// own first point, as Roga, never get the 30 degrees.
+// clang-format off
+constexpr std::array<Saham, kSahamCount> kSahams = {{
+    reversed(L"Punya",      kMoon,      kSun,     kAsc),
+    reversed(L"Vidya",      kSun,       kMoon,    kAsc),
+    reversed(L"Yashas",     kJup,       kPunya,   kAsc),
+    reversed(L"Mitra",      kJup,       kPunya,   kVen),
+    reversed(L"Mahatmya",   kPunya,     kMars,    kAsc),
+    reversed(L"Asha",       kSat,       kMars,    kAsc),
+    reversed(L"Samartha",   kMars,      lord(1),  kAsc),
+    alike   (L"Bhratri",    kJup,       kSat,     kAsc),
+    reversed(L"Gaurava",    kJup,       kMoon,    kSun),
+    reversed(L"Pitri",      kSat,       kSun,     kAsc),
+    reversed(L"Rajya",      kSat,       kSun,     kAsc),
+    reversed(L"Matri",      kMoon,      kVen,     kAsc),
+    reversed(L"Putra",      kJup,       kMoon,    kAsc),
+    reversed(L"Jiva",       kSat,       kJup,     kAsc),
+    reversed(L"Karma",      kMars,      kMerc,    kAsc),
+    alike   (L"Roga",       kAsc,       kMoon,    kAsc),
+    reversed(L"Kali",       kJup,       kMars,    kAsc),
+    reversed(L"Shastra",    kJup,       kSat,     kMerc),
+    reversed(L"Bandhu",     kMerc,      kMoon,    kAsc),
+    alike   (L"Mrityu",     house(8),   kMoon,    kAsc),
+    alike   (L"Paradesha",  house(9),   lord(9),  kAsc),
+    alike   (L"Artha",      house(2),   lord(2),  kAsc),
+    reversed(L"Paradara",   kVen,       kSun,     kAsc),
+    reversed(L"Vanik",      kMoon,      kMerc,    kAsc),
+    {L"Karyasiddhi", {kSat, kSun, kSunLord}, {kSat, kMoon, kMoonLord}},
+    reversed(L"Vivaha",     kVen,       kSat,     kAsc),
+    reversed(L"Santapa",    kSat,       kMoon,    house(6)),
+    reversed(L"Shraddha",   kVen,       kMars,    kAsc),
+    reversed(L"Priti",      kShastra,   kPunya,   kAsc),
+    reversed(L"Jadya",      kMars,      kSat,     kMerc),
+    alike   (L"Vyapara",    kMars,      kSat,     kAsc),
+    reversed(L"Shatru",     kMars,      kSat,     kAsc),
+    reversed(L"Jalapatana", kMidCancer, kSat,     kAsc),
+    reversed(L"Bandhana",   kPunya,     kSat,     kAsc),
+    reversed(L"Apamrityu",  house(8),   kMars,    kAsc),
+    alike   (L"Labha",      house(11),  lord(11), kAsc),
+}};
+// clang-format on
+
+// Samartha when Mars is himself the lord of the ascendant.
+constexpr Saham kSamarthaOfMars = reversed(L"Samartha", kJup, kMars, kAsc);
+
+static_assert(kSahams[kSamartha].name == L"Samartha" && kSahams[kKarmaSaham].name == L"Karma" &&
+              kSahams[kVivahaSaham].name == L"Vivaha" &&
+              kSahams[std::size_t(kShastra.number)].name == L"Shastra");
+
+constexpr std::array<std::wstring_view, kSahamCount> kNames = [] {
+    std::array<std::wstring_view, kSahamCount> names;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        names[i] = kSahams[i].name;
+    }
+    return names;
+}();
+
+int lordOfHouse(const core::Chart& chart, int number)
+{
+    return signLord(norm12(chart.rashi[core::kAscendant] + number - 1));
+}
+
+double longitudeOf(const core::Chart& chart, const Term& term, bool night)
+{
+    switch (term.kind) {
+    case Kind::House:
+        return Normalize360(chart.longitude[core::kAscendant] + 30.0 * (term.number - 1));
+    case Kind::HouseLord:
+        return at(chart.longitude, lordOfHouse(chart, term.number));
+    case Kind::Dispositor:
+        return at(chart.longitude, signLord(at(chart.rashi, term.number)));
+    case Kind::Saham:
+        return sahamLongitude(chart, term.number, night);
+    case Kind::Degree:
+        return term.number;
+    default:
+        return at(chart.longitude, term.number);
+    }
+}
+
+const Saham& rowOf(const core::Chart& chart, int saham)
+{
+    const bool ofMars = saham == kSamartha && lordOfHouse(chart, 1) == core::kMars;
+    return ofMars ? kSamarthaOfMars : at(kSahams, saham);
+}
+
+bool pointsComputed(const core::Chart& chart)
+{
+    for (int point = core::kAscendant; point <= core::kSaturn; ++point) {
+        if (!chart.computed(point)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+const std::array<std::wstring_view, kSahamCount>& sahamNames()
+{
+    return kNames;
+}
+
+double sahamLongitude(const core::Chart& chart, int saham, bool night)
+{
+    const Saham& row = rowOf(chart, saham);
+    const Formula& formula = night ? row.night : row.day;
+    const double a = longitudeOf(chart, formula.a, night);
+    const double b = longitudeOf(chart, formula.b, night);
+    const double c = longitudeOf(chart, formula.c, night);
+    const bool onTheWay = Normalize360(c - b) <= Normalize360(a - b);
+    return Normalize360(a - b + c + (onTheWay ? 0.0 : 30.0));
+}
+
+std::optional<std::array<double, kSahamCount>> sahams(const core::Chart& chart)
+{
+    const std::optional<bool> night = isNight(chart);
+    if (!night || !pointsComputed(chart)) {
+        return std::nullopt;
+    }
+    std::array<double, kSahamCount> longitudes{};
+    for (int saham = 0; saham < kSahamCount; ++saham) {
+        at(longitudes, saham) = sahamLongitude(chart, saham, *night);
+    }
+    return longitudes;
+}
+
+void computeSahamPoints(core::Chart& chart, bool night, int saham2, int saham3)
+{
+    const auto store = [&](int point, int saham) {
+        if (saham >= 0 && saham < kSahamCount) {
+            storePoint(chart, point, sahamLongitude(chart, saham, night));
+        }
+    };
+    store(core::kSaham2, saham2);
+    store(core::kSaham3, saham3);
+}
+
+} // namespace kestrav::analysis

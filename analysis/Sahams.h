@@ -1,0 +1,34 @@
+// The thirty-six sahams of the Tajika.
+#pragma once
+
+#include "core/Chart.h"
+
+#include <array>
+#include <optional>
+#include <string_view>
+
+namespace kestrav::analysis
+{
+
+inline constexpr int kSahamCount = 36;
+
+/// Places in the list of the sahams that points 61 and 62 show unless others are chosen.
+inline constexpr int kKarmaSaham = 14;
+inline constexpr int kVivahaSaham = 25;
+
+/// The names of the sahams in the order of the list; a saham is known by its place 0 to 35.
+[[nodiscard]] const std::array<std::wstring_view, kSahamCount>& sahamNames();
+
+/// The longitude of a saham in degrees, 0 to under 360: the distance from one point to another
+/// added to a third, and 30 degrees more when the third does not lie on the way. By night most
+/// sahams take the distance the other way round. Points 0 to 7 of the chart must be there.
+[[nodiscard]] double sahamLongitude(const core::Chart& chart, int saham, bool night);
+
+/// All sahams of a chart, by day or night as isNight says; nothing when a point is missing.
+[[nodiscard]] std::optional<std::array<double, kSahamCount>> sahams(const core::Chart& chart);
+
+/// Fills points 61 and 62 with two chosen sahams; points 0 to 7 must be there. A choice outside the
+/// list leaves its point not computed.
+void computeSahamPoints(core::Chart& chart, bool night, int saham2, int saham3);
+
+} // namespace kestrav::analysis

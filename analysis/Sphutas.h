@@ -1,0 +1,23 @@
+// The sphutas: sums of longitudes.
+#pragma once
+
+#include "core/Chart.h"
+
+#include <array>
+#include <optional>
+#include <string_view>
+
+namespace kestrav::analysis
+{
+
+struct Sphuta
+{
+    std::wstring_view name;
+    std::optional<double> longitude; ///< sidereal degrees; none when a point of the sum is missing
+};
+
+/// The ten sphutas in their fixed order: Beeja, Kshetra, Tithi, Yoga, Tri, Chatur, Pancha, Prana,
+/// Deha, Mrityu. Those with Gulika are missing where no day runs.
+[[nodiscard]] std::array<Sphuta, 10> sphutas(const core::Chart& chart);
+
+} // namespace kestrav::analysis
