@@ -12,9 +12,9 @@ namespace kestrav::analysis
 /// computeAllVargas replaces them where the settings ask for it.
 bool computeVarga(core::Chart& chart, int varga, int point, const core::Settings& settings);
 
-/// Computes every varga for the points 0 to 59 that have a position; the placements of the others
-/// are cleared. With arudhasInVargas the
-/// points 31 and 47 to 58 then take the sign of the arudha computed on the varga's own placements.
+/// Computes every varga for the points 0 to 59 that have a position and clears the placements of
+/// those that have none. With arudhasInVargas the points 31 and 47 to 58 then take the sign of the
+/// arudha computed on the varga's own placements.
 void computeAllVargas(core::Chart& chart, const core::Settings& settings);
 
 /// The sign of a point in the rashi (varga 0) or in another varga, whose placements must be there;
