@@ -66,9 +66,10 @@ void storeMoonAndNodes(core::Chart& chart, const core::Settings& settings,
 void storeDay(core::Chart& chart, astro::EphemerisContext& context)
 {
     const astro::Observer observer = astro::observerOf(chart);
-    chart.sunrise = astro::sunEvent(context, chart.time, observer, astro::HorizonEvent::Rise);
-    chart.sunset = astro::sunEvent(context, chart.time, observer, astro::HorizonEvent::Set);
-    chart.vedicDay = astro::vedicDay(context, chart.time, observer);
+    const astro::SunTrack sun = astro::sunTrack(context, chart.time, observer);
+    chart.sunrise = astro::sunEvent(sun, chart.time, observer, astro::HorizonEvent::Rise);
+    chart.sunset = astro::sunEvent(sun, chart.time, observer, astro::HorizonEvent::Set);
+    chart.vedicDay = astro::vedicDay(sun, chart.time, observer);
     chart.weekday = core::Weekday(chart);
 }
 

@@ -4,6 +4,7 @@
 #include "core/SignData.h"
 #include "core/numeric.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
@@ -18,8 +19,6 @@ using core::kDegreesPerRadian;
 using core::kPi;
 using core::kRadiansPerDegree;
 using core::Normalize360;
-
-constexpr int kPlacidusRounds = 10;
 
 void storeCusp(core::Chart& chart, int house, double longitude)
 {
@@ -83,26 +82,30 @@ void sriPati(core::Chart& chart)
 void placidus(core::Chart& chart)
 {
     const double ascendant = chart.longitude[core::kAscendant];
+    const auto points = placidusPoints(chart);
+    const auto pointAt = [&](int angle) {
+        const auto place = std::find(kPlacidusAngles.begin(), kPlacidusAngles.end(), angle);
+        return points[std::size_t(place - kPlacidusAngles.begin())];
+    };
     const auto cuspAndOpposite = [&](int house, double longitude) {
         storeCusp(chart, house, longitude);
         storeCusp(chart, house > 6 ? house - 6 : house + 6, longitude + 180.0);
     };
     cuspAndOpposite(1, ascendant);
     cuspAndOpposite(10, chart.midheaven);
-    cuspAndOpposite(11, PlacidusPoint(chart, 30, false));
-    cuspAndOpposite(12, PlacidusPoint(chart, 60, false));
-    cuspAndOpposite(2, PlacidusPoint(chart, 120, true));
-    cuspAndOpposite(3, PlacidusPoint(chart, 150, true));
+    cuspAndOpposite(11, pointAt(30));
+    cuspAndOpposite(12, pointAt(60));
+    cuspAndOpposite(2, pointAt(120));
+    cuspAndOpposite(3, pointAt(150));
 
     // Sandhi i stands at 75 + (i - 1) x 30 degrees from the upper meridian, halfway between two
     // cusps in the division of the semi-arcs.
     chart.hasSandhis = true;
-    for (std::size_t i = 0; i < 12; ++i) {
-        const int fromMeridian = (75 + int(i) * 30) % 360;
-        const int inUpperHalf = fromMeridian % 180;
-        const double point = PlacidusPoint(chart, inUpperHalf, inUpperHalf > 90) +
-                             (fromMeridian >= 180 ? 180.0 : 0.0);
-        chart.sandhis[i] = std::isfinite(point) ? Normalize360(point) : core::kNotComputed;
+    for (int i = 0; i < 12; ++i) {
+        const int fromMeridian = (75 + i * 30) % 360;
+        const double point = pointAt(fromMeridian % 180) + (fromMeridian >= 180 ? 180.0 : 0.0);
+        chart.sandhis[std::size_t(i)] =
+            std::isfinite(point) ? Normalize360(point) : core::kNotComputed;
     }
 }
 
@@ -138,43 +141,6 @@ double Ascendant(core::Chart& chart, double siderealTime, int mode)
                               std::cos(latitude - std::asin(std::sin(m) * chart.sinObliquity));
     }
     return Normalize360(a * kDegreesPerRadian - chart.ayanamsa);
-}
-
-double PlacidusPoint(const core::Chart& chart, int A, bool below)
-{
-    const double ramc = chart.localSiderealTime * 15.0 * kRadiansPerDegree;
-    const double cosObliquity = chart.cosObliquity == 0.0 ? 1.0 : chart.cosObliquity;
-    const int k = A < 90 ? A : 180 - A;
-    const double F = 90.0 / (A == 0 ? 90.0 : k);
-    const double tangents =
-        std::tan(chart.geoLatitude * kRadiansPerDegree) * (chart.sinObliquity / cosObliquity);
-    double R = A * kPi / 180.0 + ramc;
-    for (int round = 0; round < kPlacidusRounds; ++round) {
-        double x = std::sin(R) * tangents;
-        if (!below) {
-            x = -x;
-        }
-        if (x >= 1.0) {
-            x = std::nextafter(1.0, 0.0);
-        }
-        double H = kPi / 2.0;
-        if (x != 0.0) {
-            // At -1 and below there is no such point and no number comes out.
-            H = std::atan(std::sqrt(1.0 - x * x) / x);
-            if (H < 0.0) {
-                H += kPi;
-            }
-        }
-        R = below ? ramc + kPi - H / F : ramc + H / F;
-    }
-    double longitude = std::atan(std::tan(R) / cosObliquity);
-    if (longitude < 0.0) {
-        longitude += kPi;
-    }
-    if (std::sin(R) < 0.0) {
-        longitude += kPi;
-    }
-    return Normalize360(longitude * kDegreesPerRadian - chart.ayanamsa);
 }
 
 void HouseCusps(core::Chart& chart, int system)

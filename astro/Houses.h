@@ -1,6 +1,7 @@
 // Ascendant, midheaven and the twelve house cusps.
 #pragma once
 
+#include "astro/Placidus.h" // PlacidusPoint belongs to the cusps
 #include "core/Chart.h"
 
 namespace kestrav::astro
@@ -20,12 +21,6 @@ enum class HouseSystem : int
 /// negative, in degrees. When the mode is not 0 the chart's midheaven (sidereal degrees) and the
 /// hourly factor of the ascendant are stored too. Needs the chart's obliquity and ayanamsa.
 double Ascendant(core::Chart& chart, double siderealTime, int mode);
-
-/// The sidereal longitude of the Placidus point `A` whole degrees from the upper meridian (0 < A <
-/// 180); `below` is true for A above 90. Always ten rounds, which is not converged at high latitude
-/// (off by 0.01 degrees at 55, 4 degrees at 66 degrees). Not-a-number where the point does not
-/// exist.
-[[nodiscard]] double PlacidusPoint(const core::Chart& chart, int A, bool below);
 
 /// Fills cusps 35 to 46 by the house system; another value leaves them untouched. A cusp that does
 /// not exist gets a negative degree in sign; the other cusps get degree 0 until their sign data are

@@ -47,23 +47,9 @@ Search searchOf(int point)
     return {point, point == core::kSun ? 5 : 10, kSiderealRate};
 }
 
-Sky skyAt(EphemerisContext& context, double T, int point)
+// The equatorial position of ecliptic coordinates of date in radians.
+Sky skyOf(double T, double longitude, double latitude, double altitude)
 {
-    double longitude = 0.0;
-    double latitude = 0.0;
-    double altitude = point == core::kSun ? kSunAltitude : -kRefraction;
-    if (point == core::kMoon) {
-        const MoonPosition moon = preciseMoon(T);
-        longitude = moon.longitude * kRadiansPerDegree;
-        latitude = moon.latitude;
-        const double parallax = std::asin(kEarthRadiusAu / moon.distance) * kDegreesPerRadian;
-        altitude = kMoonParallaxFactor * parallax - kRefraction;
-    } else {
-        context.setTime(core::timeArguments(T));
-        PlanetPosition(context, codeOfPoint(point));
-        longitude = context.result.longitude * kRadiansPerDegree;
-        latitude = context.result.latitude;
-    }
     const double obliquity = obliquityDegrees(T) * kRadiansPerDegree;
     const double cosObliquity = std::cos(obliquity);
     const double sinObliquity = std::sin(obliquity);
@@ -72,6 +58,20 @@ Sky skyAt(EphemerisContext& context, double T, int point)
                    std::cos(longitude));
     return {rightAscension * kDegreesPerRadian,
             declinationOf(longitude, latitude, cosObliquity, sinObliquity), altitude};
+}
+
+Sky skyOfBody(EphemerisContext& context, double T, int point)
+{
+    if (point == core::kMoon) {
+        const MoonPosition moon = preciseMoon(T);
+        const double parallax = std::asin(kEarthRadiusAu / moon.distance) * kDegreesPerRadian;
+        return skyOf(T, moon.longitude * kRadiansPerDegree, moon.latitude,
+                     kMoonParallaxFactor * parallax - kRefraction);
+    }
+    context.setTime(core::timeArguments(T));
+    PlanetPosition(context, codeOfPoint(point));
+    return skyOf(T, context.result.longitude * kRadiansPerDegree, context.result.latitude,
+                 point == core::kSun ? kSunAltitude : -kRefraction);
 }
 
 // The hour angle of the event in degrees, or nothing when the body does not reach the altitude.
@@ -94,8 +94,10 @@ std::optional<double> wantedHourAngle(const Sky& sky, double geoLatitude, Horizo
     return event == HorizonEvent::Rise ? -angle : angle;
 }
 
-// Approaches the event from a first clock hour; the first round settles which one it is.
-std::optional<double> approach(EphemerisContext& context, const core::DateTimeRecord& date,
+// Approaches the event from a first clock hour; the first round settles which one it is. `skyAt`
+// gives the body at a T.
+template <typename SkyAt>
+std::optional<double> approach(SkyAt skyAt, const core::DateTimeRecord& date,
                                const Observer& observer, const Search& search, HorizonEvent event,
                                double hour)
 {
@@ -104,7 +106,7 @@ std::optional<double> approach(EphemerisContext& context, const core::DateTimeRe
         const double utHours = hour - observer.clockOffset;
         const double dayCount = dayAt0h + utHours / 24.0;
         const double T = (dayCount + date.deltaTDays) / core::kDaysPerCentury;
-        const Sky sky = skyAt(context, T, search.point);
+        const Sky sky = skyAt(T);
         const std::optional<double> wanted = wantedHourAngle(sky, observer.geoLatitude, event);
         if (!wanted) {
             return std::nullopt;
@@ -128,13 +130,30 @@ Observer observerOf(const core::Chart& chart)
     return {chart.geoLongitude, chart.geoLatitude, chart.zone + chart.daylightSaving};
 }
 
-std::optional<double> sunEvent(EphemerisContext& context, const core::DateTimeRecord& date,
+SunTrack sunTrack(EphemerisContext& context, const core::DateTimeRecord& date,
+                  const Observer& observer)
+{
+    const double dayCount = core::DateToJulianDay(date) - core::kEpoch1900 +
+                            (localMeanNoon(observer) - observer.clockOffset) / 24.0;
+    return {context, (dayCount + date.deltaTDays) / core::kDaysPerCentury};
+}
+
+std::optional<double> sunEvent(const SunTrack& track, const core::DateTimeRecord& date,
                                const Observer& observer, HorizonEvent event)
 {
     // Both midnights lie equally far from noon, and the equation of time would choose between them.
     const double start =
         localMeanNoon(observer) + (event == HorizonEvent::LowerCulmination ? 12.0 : 0.0);
-    return approach(context, date, observer, searchOf(core::kSun), event, start);
+    const auto skyAt = [&](double T) {
+        return skyOf(T, track.longitude(T), 0.0, kSunAltitude);
+    };
+    return approach(skyAt, date, observer, searchOf(core::kSun), event, start);
+}
+
+std::optional<double> sunEvent(EphemerisContext& context, const core::DateTimeRecord& date,
+                               const Observer& observer, HorizonEvent event)
+{
+    return sunEvent(sunTrack(context, date, observer), date, observer, event);
 }
 
 std::optional<double> bodyEvent(EphemerisContext& context, const core::DateTimeRecord& date,
@@ -142,15 +161,18 @@ std::optional<double> bodyEvent(EphemerisContext& context, const core::DateTimeR
 {
     const Search search = searchOf(point);
     const double period = 360.0 / search.rate;
+    const auto skyAt = [&](double T) {
+        return skyOfBody(context, T, point);
+    };
     const std::optional<double> near =
-        approach(context, date, observer, search, event, localMeanNoon(observer));
+        approach(skyAt, date, observer, search, event, localMeanNoon(observer));
     // The event nearest to noon may belong to a neighbouring date, and one on this date may have a
     // twin a period earlier.
     std::optional<double> earliest;
     for (const double shift : {-period, 0.0, period}) {
         const double start = near.value_or(localMeanNoon(observer)) + shift;
         const std::optional<double> hour =
-            shift == 0.0 ? near : approach(context, date, observer, search, event, start);
+            shift == 0.0 ? near : approach(skyAt, date, observer, search, event, start);
         if (hour && *hour >= 0.0 && *hour < 24.0 && (!earliest || *hour < *earliest)) {
             earliest = hour;
         }
@@ -158,13 +180,13 @@ std::optional<double> bodyEvent(EphemerisContext& context, const core::DateTimeR
     return earliest;
 }
 
-std::optional<core::VedicDay> vedicDay(EphemerisContext& context,
-                                       const core::DateTimeRecord& moment, const Observer& observer)
+std::optional<core::VedicDay> vedicDay(const SunTrack& track, const core::DateTimeRecord& moment,
+                                       const Observer& observer)
 {
     const auto eventOn = [&](int days, HorizonEvent event) -> std::optional<double> {
         core::DateTimeRecord date = moment;
         core::addDays(date, days);
-        const std::optional<double> hour = sunEvent(context, date, observer, event);
+        const std::optional<double> hour = sunEvent(track, date, observer, event);
         return hour ? std::optional(*hour + 24.0 * days) : std::nullopt;
     };
     // With a clock far from local time the day can have begun on either neighbouring date.
@@ -182,6 +204,12 @@ std::optional<core::VedicDay> vedicDay(EphemerisContext& context,
         return core::VedicDay{*sunrise, *sunset, *next};
     }
     return std::nullopt;
+}
+
+std::optional<core::VedicDay> vedicDay(EphemerisContext& context,
+                                       const core::DateTimeRecord& moment, const Observer& observer)
+{
+    return vedicDay(sunTrack(context, moment, observer), moment, observer);
 }
 
 } // namespace kestrav::astro

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "astro/Engine.h"
+#include "astro/SunTrack.h"
 #include "core/Chart.h"
 #include "core/DateTime.h"
 
@@ -29,6 +30,11 @@ enum class HorizonEvent
     LowerCulmination,
 };
 
+/// The Sun around local mean noon of a civil date, for the events of that date and its neighbours.
+/// Of the record the date and Delta T are read.
+[[nodiscard]] SunTrack sunTrack(EphemerisContext& context, const core::DateTimeRecord& date,
+                                const Observer& observer);
+
 /// The local clock hour of an event of the Sun on a civil date, counted from 0h of that date: the
 /// one nearest to local mean noon, so sunrise can lie below 0 and sunset above 24, but sunset is
 /// never before sunrise; the lower culmination is the one after noon. Rise and set are the moments
@@ -36,6 +42,11 @@ enum class HorizonEvent
 /// there is no such event on the date, as near the poles. Of the record the date and Delta T are
 /// read.
 [[nodiscard]] std::optional<double> sunEvent(EphemerisContext& context,
+                                             const core::DateTimeRecord& date,
+                                             const Observer& observer, HorizonEvent event);
+
+/// The same with the Sun of a track that is at hand.
+[[nodiscard]] std::optional<double> sunEvent(const SunTrack& track,
                                              const core::DateTimeRecord& date,
                                              const Observer& observer, HorizonEvent event);
 
@@ -51,5 +62,9 @@ enum class HorizonEvent
 /// The day running at a record's local time; nothing where the Sun does not rise or set.
 [[nodiscard]] std::optional<core::VedicDay>
 vedicDay(EphemerisContext& context, const core::DateTimeRecord& moment, const Observer& observer);
+
+/// The same with the Sun of a track of the moment's date that is at hand.
+[[nodiscard]] std::optional<core::VedicDay>
+vedicDay(const SunTrack& track, const core::DateTimeRecord& moment, const Observer& observer);
 
 } // namespace kestrav::astro
