@@ -1,11 +1,9 @@
 #include "app/cli/ChartJson.h"
 
 #include "app/cli/TextValues.h"
-
 #include "astro/Ayanamsa.h"
 #include "astro/SiderealTime.h"
 #include "core/FileText.h"
-#include "core/PointNames.h"
 #include "core/numeric.h"
 
 #include <nlohmann/json.hpp>
@@ -47,7 +45,7 @@ Json pointJson(const core::Chart& chart, int point)
 {
     Json object;
     object["index"] = point;
-    object["name"] = core::toUtf8(core::PointName(-1, point));
+    object["name"] = core::toUtf8(pointLabel(point));
     for (const char* const key :
          {"longitude", "speed", "latitude", "declination", "rashi", "degreeInSign", "navamshaSign",
           "nakshatraPosition", "nakshatra", "pada", "retrograde", "motionCode", "combust"}) {

@@ -72,7 +72,7 @@ std::wstring missingEventsText(const core::Chart& chart)
 
 void addPoint(TextTable& table, const core::Chart& chart, int point)
 {
-    const std::wstring name(core::PointName(-1, point));
+    const std::wstring name = pointLabel(point);
     if (!chart.computed(point)) {
         table.add({name, kNone, kNone, kNone, kNone, L"", L"", L"", L""});
         return;

@@ -136,6 +136,12 @@ private:
         return {what + " (see kestrav-cli " + name + (name.empty() ? "" : " ") + "--help)"};
     }
 
+    static bool isOption(const Leaf& leaf, const std::string& word)
+    {
+        return word.starts_with("--") &&
+               (leaf.values.count(word) != 0 || leaf.switches.count(word) != 0);
+    }
+
     static Request textRequest(std::string text)
     {
         Request result;
@@ -157,10 +163,13 @@ private:
         Request result;
         result.command = leaf.command;
         for (const auto& [name, values] : leaf.values) {
-            for (const std::string& value : values) {
-                if (leaf.values.count(value) != 0 || leaf.switches.count(value) != 0) {
-                    return usageError(name + " has no value before " + value);
-                }
+            const auto option =
+                std::find_if(values.begin(), values.end(),
+                             [&](const std::string& value) { return isOption(leaf, value); });
+            if (option != values.end()) {
+                std::string what = name;
+                what.append(" has no value before ").append(*option);
+                return usageError(what);
             }
             result.arguments.store(name, values);
         }

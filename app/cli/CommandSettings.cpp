@@ -91,7 +91,7 @@ Result<core::StoredSettings> loadSettings(const Arguments& arguments, FileNeed n
 Result<void> applySettingOptions(const Arguments& arguments, core::Settings& settings)
 {
     for (const std::string& text : arguments.values("--set")) {
-        const Result<void> applied = applySet(text, settings);
+        Result<void> applied = applySet(text, settings);
         if (!applied) {
             return applied;
         }

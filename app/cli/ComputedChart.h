@@ -18,7 +18,7 @@ struct ComputedChart
     core::Chart chart;
     core::Settings settings;
     bool hasPlace = false;                  ///< without it there are no houses and no sunrise
-    std::optional<core::VedicDay> day;     ///< the day running; none near the poles
+    std::optional<core::VedicDay> day;      ///< the day running; none near the poles
     std::optional<double> upperCulmination; ///< of the Sun on the civil date, local hours
 };
 

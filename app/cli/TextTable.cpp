@@ -68,7 +68,8 @@ std::wstring LabelledLines::text() const
     }
     std::wstring text;
     for (const auto& [label, value] : lines_) {
-        std::wstring line = label + std::wstring(width - label.size() + kGap, L' ') + value;
+        std::wstring line = label;
+        line.append(width - label.size() + kGap, L' ').append(value);
         endLine(line);
         text += line;
     }

@@ -71,6 +71,12 @@ std::wstring geoText(double degrees, wchar_t positive, wchar_t negative)
     return core::FormatDMS(std::fabs(degrees), 1) + L" " + (degrees < 0.0 ? negative : positive);
 }
 
+std::wstring pointLabel(int point)
+{
+    const std::wstring_view name = core::PointName(-1, point);
+    return std::wstring(name.substr(0, name.find_last_not_of(L' ') + 1));
+}
+
 int nakshatraOf(double position)
 {
     return int(std::floor(position));

@@ -21,6 +21,9 @@ namespace kestrav::cli
 /// A geographic coordinate in degrees, minutes and seconds with its letter.
 [[nodiscard]] std::wstring geoText(double degrees, wchar_t positive, wchar_t negative);
 
+/// The long name of a point without the blank in which some names end.
+[[nodiscard]] std::wstring pointLabel(int point);
+
 /// Nakshatra 0 to 26 of a nakshatra position.
 [[nodiscard]] int nakshatraOf(double position);
 

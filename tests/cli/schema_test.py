@@ -1,0 +1,80 @@
+"""The JSON output against its schema."""
+
+import copy
+import json
+import unittest
+
+import jsonschema
+
+from program import DOCS, EXAMPLE, TROMSO_IN_JUNE, ProgramTest
+
+SCHEMA = json.loads((DOCS / "kestrav-cli.schema.json").read_text(encoding="utf-8"))
+IDES = ["--date", "-0044-03-15", "--time", "12:00", "--zone", "0:50", "--lat", "41.9", "--lon",
+        "12.5"]
+POLAR = TROMSO_IN_JUNE + ["--set", "houseSystem=4"]
+
+
+def definition(name):
+    return SCHEMA["$defs"][name]
+
+
+class Schema(ProgramTest):
+    def assertKeyOrder(self, value, schema, path=""):
+        if "$ref" in schema:
+            schema = definition(schema["$ref"].rsplit("/", 1)[1])
+        if isinstance(value, list):
+            for item in value:
+                self.assertKeyOrder(item, schema.get("items", {}), path + "[]")
+        elif isinstance(value, dict) and "properties" in schema:
+            self.assertEqual(list(value), list(schema["properties"]), path)
+            for key, item in value.items():
+                self.assertKeyOrder(item, schema["properties"][key], path + "." + key)
+
+    def validator(self, command):
+        root = {"$schema": SCHEMA["$schema"], "$defs": SCHEMA["$defs"],
+                "$ref": "#/$defs/command-" + command.replace(" ", "-")}
+        return jsonschema.Draft202012Validator(root)
+
+    def check(self, command, *words, **how):
+        output = self.json(*command.split(), *words, **how)
+        self.validator(command).validate(output)
+        self.assertKeyOrder(output, definition("command-" + command.replace(" ", "-")))
+        return output
+
+    def test_schema_is_one(self):
+        jsonschema.Draft202012Validator.check_schema(SCHEMA)
+
+    def test_charts(self):
+        tropical = EXAMPLE + ["--set", "ayanamsaRow=9", "--set", "magnitudes=on"]
+        for words in (EXAMPLE, POLAR, IDES, tropical):
+            for command in ("chart", "positions", "houses", "sun"):
+                with self.subTest(words=words, command=command):
+                    self.check(command, *words)
+        self.check("positions", *EXAMPLE[:6])
+
+    def test_settings(self):
+        for command in ("settings list", "settings reset", "settings ayanamsa list",
+                        "settings ayanamsa reset"):
+            self.check(command)
+        self.check("settings get", "houseSystem")
+        self.check("settings set", "houseSystem", "2")
+        self.check("settings ayanamsa set", "0", "--rate", "-1", warning="tropical")
+
+    def test_schema_is_strict(self):
+        chart = self.check("chart", *POLAR)
+        validator = self.validator("chart")
+        for path in (["sun", "sunrise"], ["points", 5, "combust"], ["vargas"], ["input", "name"]):
+            broken = copy.deepcopy(chart)
+            parent = broken
+            for key in path[:-1]:
+                parent = parent[key]
+            del parent[path[-1]]
+            self.assertFalse(validator.is_valid(broken), path)
+            parent[path[-1]] = "--"
+            self.assertEqual(validator.is_valid(broken), path[-1] == "name", path)
+        chart["extra"] = 1
+        self.assertFalse(validator.is_valid(chart))
+
+
+if __name__ == "__main__":
+    unittest.main()
