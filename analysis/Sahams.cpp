@@ -4,7 +4,9 @@
 #include "analysis/DignityTables.h"
 #include "analysis/StorePoint.h"
 #include "core/Angles.h"
+#include "core/numeric.h"
 
+#include <cmath>
 #include <cstddef>
 
 namespace kestrav::analysis
@@ -142,53 +144,48 @@ constexpr std::array<std::wstring_view, kSahamCount> kNames = [] {
     return names;
 }();
 
-int lordOfHouse(const core::Chart& chart, int number)
+// Of a point that was not computed the longitude is not-a-number, which every sum then hands on.
+double longitudeOfPoint(const core::Chart& chart, int point)
 {
-    return signLord(norm12(chart.rashi[core::kAscendant] + number - 1));
+    return chart.computed(point) ? at(chart.longitude, point) : core::kNotANumber;
 }
+
+double longitudeOfLord(const core::Chart& chart, int point, int number)
+{
+    if (!chart.computed(point)) {
+        return core::kNotANumber;
+    }
+    return longitudeOfPoint(chart, signLord(norm12(at(chart.rashi, point) + number - 1)));
+}
+
+double valueOf(const core::Chart& chart, int saham, bool night);
 
 double longitudeOf(const core::Chart& chart, const Term& term, bool night)
 {
     switch (term.kind) {
     case Kind::House:
-        return Normalize360(chart.longitude[core::kAscendant] + 30.0 * (term.number - 1));
+        return longitudeOfPoint(chart, core::kAscendant) + 30.0 * (term.number - 1);
     case Kind::HouseLord:
-        return at(chart.longitude, lordOfHouse(chart, term.number));
+        return longitudeOfLord(chart, core::kAscendant, term.number);
     case Kind::Dispositor:
-        return at(chart.longitude, signLord(at(chart.rashi, term.number)));
+        return longitudeOfLord(chart, term.number, 1);
     case Kind::Saham:
-        return sahamLongitude(chart, term.number, night);
+        return valueOf(chart, term.number, night);
     case Kind::Degree:
         return term.number;
     default:
-        return at(chart.longitude, term.number);
+        return longitudeOfPoint(chart, term.number);
     }
 }
 
 const Saham& rowOf(const core::Chart& chart, int saham)
 {
-    const bool ofMars = saham == kSamartha && lordOfHouse(chart, 1) == core::kMars;
+    const bool ofMars = saham == kSamartha && chart.computed(core::kAscendant) &&
+                        signLord(chart.rashi[core::kAscendant]) == core::kMars;
     return ofMars ? kSamarthaOfMars : at(kSahams, saham);
 }
 
-bool pointsComputed(const core::Chart& chart)
-{
-    for (int point = core::kAscendant; point <= core::kSaturn; ++point) {
-        if (!chart.computed(point)) {
-            return false;
-        }
-    }
-    return true;
-}
-
-} // namespace
-
-const std::array<std::wstring_view, kSahamCount>& sahamNames()
-{
-    return kNames;
-}
-
-double sahamLongitude(const core::Chart& chart, int saham, bool night)
+double valueOf(const core::Chart& chart, int saham, bool night)
 {
     const Saham& row = rowOf(chart, saham);
     const Formula& formula = night ? row.night : row.day;
@@ -199,25 +196,36 @@ double sahamLongitude(const core::Chart& chart, int saham, bool night)
     return Normalize360(a - b + c + (onTheWay ? 0.0 : 30.0));
 }
 
-std::optional<std::array<double, kSahamCount>> sahams(const core::Chart& chart)
+} // namespace
+
+const std::array<std::wstring_view, kSahamCount>& sahamNames()
 {
-    const std::optional<bool> night = isNight(chart);
-    if (!night || !pointsComputed(chart)) {
-        return std::nullopt;
-    }
-    std::array<double, kSahamCount> longitudes{};
-    for (int saham = 0; saham < kSahamCount; ++saham) {
-        at(longitudes, saham) = sahamLongitude(chart, saham, *night);
+    return kNames;
+}
+
+std::optional<double> sahamLongitude(const core::Chart& chart, int saham, bool night)
+{
+    const double value = valueOf(chart, saham, night);
+    return std::isfinite(value) ? std::optional(value) : std::nullopt;
+}
+
+std::array<std::optional<double>, kSahamCount> sahams(const core::Chart& chart)
+{
+    std::array<std::optional<double>, kSahamCount> longitudes;
+    if (const std::optional<bool> night = isNight(chart)) {
+        for (int saham = 0; saham < kSahamCount; ++saham) {
+            at(longitudes, saham) = sahamLongitude(chart, saham, *night);
+        }
     }
     return longitudes;
 }
 
-void computeSahamPoints(core::Chart& chart, bool night, int saham2, int saham3)
+void computeSahamPoints(core::Chart& chart, int saham2, int saham3)
 {
+    const std::optional<bool> night = isNight(chart);
     const auto store = [&](int point, int saham) {
-        if (saham >= 0 && saham < kSahamCount) {
-            storePoint(chart, point, sahamLongitude(chart, saham, night));
-        }
+        const bool known = night && saham >= 0 && saham < kSahamCount;
+        storePoint(chart, point, known ? valueOf(chart, saham, *night) : core::kNotANumber);
     };
     store(core::kSaham2, saham2);
     store(core::kSaham3, saham3);

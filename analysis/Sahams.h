@@ -21,14 +21,14 @@ inline constexpr int kVivahaSaham = 25;
 
 /// The longitude of a saham in degrees, 0 to under 360: the distance from one point to another
 /// added to a third, and 30 degrees more when the third does not lie on the way. By night most
-/// sahams take the distance the other way round. Points 0 to 7 of the chart must be there.
-[[nodiscard]] double sahamLongitude(const core::Chart& chart, int saham, bool night);
+/// sahams take the distance the other way round. Nothing when one of its points is not computed.
+[[nodiscard]] std::optional<double> sahamLongitude(const core::Chart& chart, int saham, bool night);
 
-/// All sahams of a chart, by day or night as isNight says; nothing when a point is missing.
-[[nodiscard]] std::optional<std::array<double, kSahamCount>> sahams(const core::Chart& chart);
+/// All sahams of a chart, by day or night as isNight says.
+[[nodiscard]] std::array<std::optional<double>, kSahamCount> sahams(const core::Chart& chart);
 
-/// Fills points 61 and 62 with two chosen sahams; points 0 to 7 must be there. A choice outside the
-/// list leaves its point not computed.
-void computeSahamPoints(core::Chart& chart, bool night, int saham2, int saham3);
+/// Fills points 61 and 62 with two chosen sahams. A saham that cannot be computed, or a choice
+/// outside the list, leaves its point not computed.
+void computeSahamPoints(core::Chart& chart, int saham2, int saham3);
 
 } // namespace kestrav::analysis

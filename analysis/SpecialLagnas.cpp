@@ -92,18 +92,26 @@ double divyaLagna(double ascendant)
 
 void computeSpecialLagnas(core::Chart& chart, astro::EphemerisContext& context)
 {
+    const bool dayRuns = chart.hasMoment && chart.vedicDay;
+    if (dayRuns) {
+        computeFromSunrise(chart, context);
+    }
+    if (!chart.computed(core::kAscendant)) {
+        return;
+    }
     const double ascendant = chart.longitude[core::kAscendant];
     const int ascendantSign = chart.rashi[core::kAscendant];
-    if (chart.hasMoment && chart.vedicDay) {
-        computeFromSunrise(chart, context);
+    storePoint(chart, core::kDivyaLagna, divyaLagna(ascendant));
+    if (dayRuns) {
         storePointInSign(chart, core::kVarnadaLagna,
                          varnadaSign(ascendantSign, chart.rashi[core::kHoraLagna]),
                          chart.degreeInSign[core::kAscendant]);
     }
-    storePointInSign(chart, core::kInduLagna, induSign(ascendantSign, chart.rashi[core::kMoon]),
-                     chart.degreeInSign[core::kMoon]);
-    storePoint(chart, core::kShriLagna, shriLagna(ascendant, chart.longitude[core::kMoon]));
-    storePoint(chart, core::kDivyaLagna, divyaLagna(ascendant));
+    if (chart.computed(core::kMoon)) {
+        storePointInSign(chart, core::kInduLagna, induSign(ascendantSign, chart.rashi[core::kMoon]),
+                         chart.degreeInSign[core::kMoon]);
+        storePoint(chart, core::kShriLagna, shriLagna(ascendant, chart.longitude[core::kMoon]));
+    }
 }
 
 } // namespace kestrav::analysis

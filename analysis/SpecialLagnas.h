@@ -31,9 +31,9 @@ inline constexpr double kGhatiLagnaRate = 75.0;
 /// The Divya lagna in degrees: the ascendant's place in the navamsha.
 [[nodiscard]] double divyaLagna(double ascendant);
 
-/// Fills points 24 to 30; the ascendant, the Sun and the Moon must be there. Bhava, Hora, Ghati and
-/// Varnada stay not computed in a chart without moment and where no day runs. Leaves the context at
-/// the sunrise.
+/// Fills points 24 to 30 where the ascendant and the Moon, which most of them need, are there.
+/// Bhava, Hora, Ghati and Varnada stay not computed in a chart without moment and where no day
+/// runs; for them the context is moved to the sunrise.
 void computeSpecialLagnas(core::Chart& chart, astro::EphemerisContext& context);
 
 } // namespace kestrav::analysis

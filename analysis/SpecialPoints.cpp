@@ -1,7 +1,6 @@
 #include "analysis/SpecialPoints.h"
 
 #include "analysis/Arudhas.h"
-#include "analysis/DayParts.h"
 #include "analysis/Sahams.h"
 #include "analysis/SpecialLagnas.h"
 #include "analysis/Upagrahas.h"
@@ -28,16 +27,6 @@ void clear(core::Chart& chart, int first, int last)
     }
 }
 
-bool allComputed(const core::Chart& chart, int first, int last)
-{
-    for (int point = first; point <= last; ++point) {
-        if (!chart.computed(point)) {
-            return false;
-        }
-    }
-    return true;
-}
-
 } // namespace
 
 void computeSpecialPoints(core::Chart& chart, const core::Settings& settings,
@@ -47,23 +36,11 @@ void computeSpecialPoints(core::Chart& chart, const core::Settings& settings,
     clear(chart, core::kDhuma, core::kMandi);
     clear(chart, core::kBhavaLagna, core::kArudhaLagna);
     clear(chart, core::kArudhaPada1, core::kSaham3);
-    if (!chart.computed(core::kSun)) {
-        return;
-    }
     computeUpagrahas(chart, choices.upagrahaAtMiddle);
-    if (!allComputed(chart, core::kAscendant, core::kMoon)) {
-        return;
-    }
     computeSpecialLagnas(chart, context);
-    // With the Sun and the ascendant there it is always known.
-    const bool night = isNight(chart).value_or(false);
-    computeYogiAndFortune(chart, night);
-    if (allComputed(chart, core::kAscendant, core::kSaturn)) {
-        computeSahamPoints(chart, night, choices.saham2, choices.saham3);
-    }
-    if (allComputed(chart, core::kAscendant, core::kKetu)) {
-        computeArudhaPoints(chart, settings);
-    }
+    computeArudhaPoints(chart, settings);
+    computeYogiAndFortune(chart);
+    computeSahamPoints(chart, choices.saham2, choices.saham3);
 }
 
 } // namespace kestrav::analysis

@@ -13,7 +13,7 @@ namespace kestrav::analysis
 /// ascendant, the running day and the weekday. A point whose sources are missing stays not
 /// computed: 15 to 21, 24 to 26 and 29 in a chart without moment and where the Sun does not rise or
 /// set, further ones when a body was not computed. Muntha and Janmalagna (22, 23) belong to annual
-/// charts and are left alone. The context is left at the sunrise.
+/// charts and are left alone. The context may be left at the sunrise. Allocates nothing.
 void computeSpecialPoints(core::Chart& chart, const core::Settings& settings,
                           astro::EphemerisContext& context);
 

@@ -67,6 +67,9 @@ int mandiGhati(int weekday, bool night)
 
 void computeUpagrahas(core::Chart& chart, bool atMiddle)
 {
+    if (!chart.computed(core::kSun)) {
+        return;
+    }
     const double sun = chart.longitude[core::kSun];
     const std::array<double, 5> sunBased = sunBasedUpagrahas(sun);
     for (std::size_t i = 0; i < sunBased.size(); ++i) {

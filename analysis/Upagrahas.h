@@ -20,7 +20,7 @@ namespace kestrav::analysis
 
 /// Fills points 10 to 21. Kaala to Gulika are the ascendant at the start of their planet's eighth
 /// of the day or night, or with `atMiddle` at its middle. Points 15 to 21 stay not computed in a
-/// chart without moment and where no day runs; the Sun must be there for the others.
+/// chart without moment and where no day runs; none is computed without the Sun.
 void computeUpagrahas(core::Chart& chart, bool atMiddle);
 
 } // namespace kestrav::analysis

@@ -1,10 +1,13 @@
 #include "analysis/YogiPoint.h"
 
+#include "analysis/DayParts.h"
 #include "analysis/DignityTables.h"
 #include "analysis/NakshatraLords.h"
 #include "analysis/StorePoint.h"
 #include "core/Angles.h"
 #include "core/SignData.h"
+
+#include <optional>
 
 namespace kestrav::analysis
 {
@@ -37,13 +40,19 @@ double partOfFortune(double ascendant, double sun, double moon, bool night)
     return Normalize360(night ? ascendant + sun - moon : ascendant + moon - sun);
 }
 
-void computeYogiAndFortune(core::Chart& chart, bool night)
+void computeYogiAndFortune(core::Chart& chart)
 {
+    if (!chart.computed(core::kSun) || !chart.computed(core::kMoon)) {
+        return;
+    }
     const double sun = chart.longitude[core::kSun];
     const double moon = chart.longitude[core::kMoon];
     storePoint(chart, core::kYogiPoint, yogiOf(sun, moon).point);
-    storePoint(chart, core::kPartOfFortune,
-               partOfFortune(chart.longitude[core::kAscendant], sun, moon, night));
+    const std::optional<bool> night = isNight(chart);
+    if (night && chart.computed(core::kAscendant)) {
+        const double ascendant = chart.longitude[core::kAscendant];
+        storePoint(chart, core::kPartOfFortune, partOfFortune(ascendant, sun, moon, *night));
+    }
 }
 
 } // namespace kestrav::analysis

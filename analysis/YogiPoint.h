@@ -21,7 +21,7 @@ struct Yogi
 /// The Part of Fortune in degrees; Sun and Moon change places by night.
 [[nodiscard]] double partOfFortune(double ascendant, double sun, double moon, bool night);
 
-/// Fills points 59 and 60; the ascendant, the Sun and the Moon must be there.
-void computeYogiAndFortune(core::Chart& chart, bool night);
+/// Fills points 59 and 60 where the Sun, the Moon and, for the latter, the ascendant are there.
+void computeYogiAndFortune(core::Chart& chart);
 
 } // namespace kestrav::analysis
