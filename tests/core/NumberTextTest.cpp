@@ -133,6 +133,7 @@ TEST(NumberText, Date)
           "1990-06-15-1", "--44-03-15", "+-44-03-15", "1990-006-15", "100000-01-01"}) {
         EXPECT_FALSE(parseDate(text)) << text;
     }
+    EXPECT_NE(parseDate("0000-01-01").error().message.find("no year 0"), std::string::npos);
     // A long text is quoted in part and never cut inside a character.
     const std::string message = parseDate(std::string(59, 'x') + "\u00e9").error().message;
     EXPECT_TRUE(fromUtf8(message));
@@ -154,8 +155,12 @@ TEST(FileText, Utf8BothWays)
 TEST(FileText, LinesThatAreNotUtf8AreWindows1252)
 {
     EXPECT_EQ(fromFileBytes("J\xC3\xBCrgen"), L"J\u00FCrgen");
-    EXPECT_EQ(fromFileBytes("J\xFCrgen \x80 \x93x\x94 \x9F"),
-              L"J\u00FCrgen \u20AC \u201Cx\u201D \u0178");
+    EXPECT_EQ(fromFileBytes("J\xFCrgen"), L"J\u00FCrgen");
+    EXPECT_EQ(
+        fromFileBytes("\x80\x82\x83\x84\x85\x86\x87\x88\x89\x8A\x8B\x8C\x8E\x91"
+                      "\x92\x93\x94\x95\x96\x97\x98\x99\x9A\x9B\x9C\x9E\x9F"),
+        L"\u20AC\u201A\u0192\u201E\u2026\u2020\u2021\u02C6\u2030\u0160\u2039\u0152\u017D\u2018"
+        L"\u2019\u201C\u201D\u2022\u2013\u2014\u02DC\u2122\u0161\u203A\u0153\u017E\u0178");
     // Its five undefined bytes keep their value.
     EXPECT_EQ(fromFileBytes("\x81\x8D\x8F\x90\x9D\xE9"), L"\u0081\u008D\u008F\u0090\u009D\u00E9");
 }
