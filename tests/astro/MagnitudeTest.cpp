@@ -1,11 +1,9 @@
 #include "astro/Engine.h"
-#include "core/numeric.h"
 #include "tests/astro/SeriesForTests.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <vector>
 
 namespace kestrav::astro
 {
@@ -68,24 +66,15 @@ TEST(Magnitude, ClampsThePhaseCosine)
                 1e-11);
 }
 
-TEST(Magnitude, BelongsToTheBodyAndOnlyWhenSwitchedOn)
+TEST(Magnitude, IsThatOfJupiterAtItsOpposition)
 {
-    // Venus near its inferior conjunction of 2022 January 9, and Jupiter near the opposition of
     // 2022 September 26, 3.95 astronomical units away.
     EphemerisContext context(tests::seriesForTests());
-    context.setTime(core::timeArguments((2459588.5 - core::kEpoch1900) / core::kDaysPerCentury));
-    PlanetPosition(context, kCodeVenus);
-    EXPECT_EQ(context.result.phase, 0.0);
-    EXPECT_EQ(context.result.magnitude, 0.0);
-    context.magnitudesOn = true;
-    PlanetPosition(context, kCodeVenus);
-    EXPECT_LT(context.result.phase, 0.005);
     context.setTime(core::timeArguments((2459849.0 - core::kEpoch1900) / core::kDaysPerCentury));
+    context.magnitudesOn = true;
     PlanetPosition(context, kCodeJupiter);
     EXPECT_GT(context.result.phase, 0.9999);
     EXPECT_NEAR(context.result.magnitude, -2.9, 0.1);
-    PlanetPosition(context, kCodeSun);
-    EXPECT_EQ(context.result.magnitude, 0.0);
 }
 
 } // namespace
