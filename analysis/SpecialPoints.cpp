@@ -12,14 +12,6 @@ namespace kestrav::analysis
 namespace
 {
 
-// The choices among the points; these are their defaults.
-struct Choices
-{
-    bool upagrahaAtMiddle = false;
-    int saham2 = kVivahaSaham;
-    int saham3 = kKarmaSaham;
-};
-
 void clear(core::Chart& chart, int first, int last)
 {
     for (int point = first; point <= last; ++point) {
@@ -32,15 +24,14 @@ void clear(core::Chart& chart, int first, int last)
 void computeSpecialPoints(core::Chart& chart, const core::Settings& settings,
                           astro::EphemerisContext& context)
 {
-    const Choices choices;
     clear(chart, core::kDhuma, core::kMandi);
     clear(chart, core::kBhavaLagna, core::kArudhaLagna);
     clear(chart, core::kArudhaPada1, core::kSaham3);
-    computeUpagrahas(chart, choices.upagrahaAtMiddle);
+    computeUpagrahas(chart, settings.upagrahaAtMiddle);
     computeSpecialLagnas(chart, context);
     computeArudhaPoints(chart, settings);
     computeYogiAndFortune(chart);
-    computeSahamPoints(chart, choices.saham2, choices.saham3);
+    computeSahamPoints(chart, settings.saham2, settings.saham3);
 }
 
 } // namespace kestrav::analysis

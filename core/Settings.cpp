@@ -26,12 +26,16 @@ constexpr std::string_view kDashaSystems =
     "Shoola|NiryanaShoola|Moola|Tithi Astottari";
 constexpr std::string_view kYearLengths =
     "True Solar|Mean Tropical|Mean Sidereal|360 days|354 days|Jovian|Custom";
+constexpr std::string_view kSahams =
+    "Punya|Vidya|Yashas|Mitra|Mahatmya|Asha|Samartha|Bhratri|Gaurava|Pitri|Rajya|Matri|Putra|Jiva|"
+    "Karma|Roga|Kali|Shastra|Bandhu|Mrityu|Paradesha|Artha|Paradara|Vanik|Karyasiddhi|Vivaha|"
+    "Santapa|Shraddha|Priti|Jadya|Vyapara|Shatru|Jalapatana|Bandhana|Apamrityu|Labha";
 constexpr std::string_view kTotalLengths =
     "Standard|1 year|1/4 year|1/8 yr (1 1/2mth)|1/12yr (1 mth)";
 
 // The order is that of the settings file: it only ever grows at the end.
 // clang-format off
-constexpr std::array<SettingInfo, 31> kTable = {{
+constexpr std::array<SettingInfo, 34> kTable = {{
     {"displayFlags", &S::displayFlags, 0, 2147483647,
      "sum of 1 for English instead of Sanskrit names and 64 for glyphs instead of letters"},
     {"ayanamsaRow", &S::ayanamsaRow, 0, 9,
@@ -85,6 +89,10 @@ constexpr std::array<SettingInfo, 31> kTable = {{
      "1 gives transiting nodes the second house as aspect besides the others, 2 the twelfth"},
     {"allPasses", &S::allPasses, 0, 1,
      "whether transit listings take every exact pass from the event search"},
+    {"upagrahaAtMiddle", &S::upagrahaAtMiddle, 0, 1,
+     "whether Kaala to Gulika stand at the middle of their part of the day instead of its start"},
+    {"saham2", &S::saham2, 0, 35, "saham that point 61 shows", kSahams},
+    {"saham3", &S::saham3, 0, 35, "saham that point 62 shows", kSahams},
 }};
 // clang-format on
 

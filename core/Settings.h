@@ -58,6 +58,11 @@ struct Settings
     int nodeAspectOption = 0;
     bool allPasses = true;
 
+    // Special points.
+    bool upagrahaAtMiddle = false;
+    int saham2 = 25;
+    int saham3 = 14;
+
     /// The editable definitions from which ayanamsaRow chooses.
     AyanamsaTable ayanamsaTable = factoryAyanamsaTable();
 
