@@ -126,6 +126,23 @@ TEST(Sahams, TwoBecomePoints)
     EXPECT_FALSE(chart.computed(core::kSaham3));
 }
 
+TEST(Sahams, AreChosenByTheNamesOfTheSettings)
+{
+    core::Settings settings;
+    for (int saham = 0; saham < kSahamCount; ++saham) {
+        const std::wstring_view name = core::at(sahamNames(), saham);
+        const std::string text(name.begin(), name.end());
+        ASSERT_TRUE(core::setSetting(settings, "saham2", text)) << text;
+        EXPECT_EQ(settings.saham2, saham) << text;
+    }
+    settings.saham3 = placeOf(L"Artha");
+    const core::Chart chart = chartAt(kNewDelhi, 2022, 1, 24, 12.0, settings);
+    EXPECT_EQ(chart.longitude[core::kSaham2], sahamLongitude(chart, kSahamCount - 1, false));
+    EXPECT_EQ(chart.longitude[core::kSaham3], sahamLongitude(chart, settings.saham3, false));
+    EXPECT_EQ(core::Settings{}.saham2, kVivahaSaham);
+    EXPECT_EQ(core::Settings{}.saham3, kKarmaSaham);
+}
+
 } // namespace
 
 } // namespace kestrav::tests
