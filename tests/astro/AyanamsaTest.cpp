@@ -91,6 +91,8 @@ TEST(Ayanamsa, ReadsTheEditedTableAndStaysLinear)
     core::DateTimeRecord record = dateOf(2100, 1, 1);
     EXPECT_NEAR(Ayanamsa(record, settings), 23.0, 1e-12);
     EXPECT_TRUE(isTropical(selectedRow(settings)));
+    settings.ayanamsaTable[3].annualRate = 0.01;
+    EXPECT_FALSE(isTropical(selectedRow(settings)));
     settings.ayanamsaTable[3].annualRate = 0.0;
     EXPECT_EQ(Ayanamsa(record, settings), 24.0);
     EXPECT_TRUE(isTropical(selectedRow(settings)));
@@ -148,6 +150,20 @@ TEST(Nutation, MeanArgumentsAgreeWithTheConventions)
         EXPECT_NEAR(std::remainder(result.perigee - perigee, 360.0), 2.0 * 0.010325 * T * T, 0.005)
             << T;
     }
+}
+
+// The polynomials in exact decimal arithmetic 20 centuries back, where their squares are large.
+TEST(Nutation, HoldsItsConstants)
+{
+    const NutationResult result = Nutation(core::timeArguments(-20.0));
+    EXPECT_NEAR(result.node, 62.837060, 1e-7);
+    EXPECT_NEAR(result.sunLongitude, 264.439680, 1e-7);
+    EXPECT_NEAR(result.sunAnomaly, 17.420840, 1e-7);
+    EXPECT_NEAR(result.moonAnomaly, 282.8012763, 1e-7);
+    EXPECT_NEAR(result.elongation, 327.883086, 1e-7);
+    EXPECT_NEAR(result.moonLongitude, 232.322514, 1e-7);
+    EXPECT_NEAR(result.perigee, 317.875120, 1e-7);
+    EXPECT_NEAR(result.longitude, -0.004241272749067, 1e-12);
 }
 
 } // namespace

@@ -40,6 +40,10 @@ TEST(MoonShort, IsTheSumOfItsThirteenTerms)
         const ShortMoon moon = shortMoon(core::timeArguments(T));
         // The arguments reach 3e7 degrees, where the last bit is 4e-9.
         EXPECT_NEAR(std::remainder(moon.longitude - moonByHand(T), 360.0), 0.0, 1e-7) << T;
+        // The mean argument of latitude, L - node.
+        const double t = T - 0.5;
+        const double F = 52.2627 + 483202.0219 * t - 0.0032 * t * t;
+        EXPECT_NEAR(moon.latitude, 5.128 * sine(F) * core::kRadiansPerDegree, 1e-9) << T;
     }
 }
 
