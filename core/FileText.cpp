@@ -1,6 +1,7 @@
 #include "core/FileText.h"
 
 #include <array>
+#include <bit>
 #include <cstdint>
 
 namespace kestrav::core
@@ -39,7 +40,7 @@ std::string toUtf8(std::wstring_view text)
     std::string bytes;
     bytes.reserve(text.size());
     for (const wchar_t character : text) {
-        std::uint32_t code = static_cast<std::uint32_t>(character);
+        auto code = std::bit_cast<std::uint32_t>(character);
         if (!exists(code)) {
             code = kReplacement;
         }

@@ -206,7 +206,7 @@ Result<void> writeFileSafely(const fs::path& path, std::span<const std::uint8_t>
         return systemError(path, "cannot look at", errno);
     }
     TemporaryFile temporary(target);
-    const Result<void> written = temporary.write(bytes, mode);
+    Result<void> written = temporary.write(bytes, mode);
     if (!written) {
         return written;
     }
@@ -220,7 +220,7 @@ Result<void> writeFileSafely(const fs::path& path, std::span<const std::uint8_t>
         }
         done(WriteStep::BackupKept);
     }
-    const Result<void> replaced = temporary.putInPlace();
+    Result<void> replaced = temporary.putInPlace();
     if (!replaced) {
         return replaced;
     }
