@@ -18,7 +18,8 @@ constexpr double kLastDay = 5373849.5;           // in the year 10000
 
 TEST(CalendarAgainstErfa, GregorianDatesAndJulianDaysAgreeBothWays)
 {
-    for (double julianDay = kFirstGregorianDay; julianDay < kLastDay; julianDay += 3.0) {
+    for (int days = 0; kFirstGregorianDay + days < kLastDay; days += 3) {
+        const double julianDay = kFirstGregorianDay + days;
         int year = 0;
         int month = 0;
         int day = 0;

@@ -33,7 +33,10 @@ protected:
     FolderTest()
     {
         std::string pattern = (fs::temp_directory_path() / "kestrav-XXXXXX").string();
-        folder = ::mkdtemp(pattern.data());
+        if (::mkdtemp(pattern.data()) == nullptr) {
+            std::abort();
+        }
+        folder = pattern;
         fs::permissions(folder, fs::perms(0777));
     }
     ~FolderTest() override

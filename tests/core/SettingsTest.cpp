@@ -19,8 +19,9 @@ namespace
 using Bytes = std::vector<std::uint8_t>;
 
 constexpr std::size_t kBlockStart = 12; // after the mark and the byte count
-constexpr std::size_t kFileSize = 500;
-constexpr std::size_t kRecords = 140;
+
+// Where the ten records of 36 bytes begin. The block before them grows with every new setting.
+const std::size_t recordsStart = encodeSettings({}).size() - 360;
 
 void putInt(Bytes& bytes, std::size_t offset, std::int32_t value)
 {
@@ -118,32 +119,32 @@ TEST(SettingsFile, HasItsLayoutByteForByte)
     settings.ayanamsaTable[1].epochYear = -2;
     settings.daylightSavingHours = 2;
     const Bytes bytes = encodeSettings({settings, {}});
-    ASSERT_EQ(bytes.size(), kFileSize);
+    ASSERT_EQ(bytes.size(), recordsStart + 360);
     const auto expectBytes = [&](std::size_t offset, const Bytes& expected) {
         const auto start = bytes.begin() + std::ptrdiff_t(offset);
         EXPECT_EQ(Bytes(start, start + std::ptrdiff_t(expected.size())), expected) << offset;
     };
-    expectBytes(0, {0, 0, 0, 0, 0, 0, 0x18, 0x40, 132, 0, 0, 0});
+    expectBytes(0, {0, 0, 0, 0, 0, 0, 0x18, 0x40, std::uint8_t(recordsStart - 8), 0, 0, 0});
     // displayFlags, ayanamsaRow, houseSystem, deltaTOn, preciseMoon, magnitudes, saving hours
     expectBytes(12, {1, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 2, 0});
     expectBytes(120, {0, 0, 0, 0, 0, 0xD4, 0x76, 0x40}); // customYearDays 365.25
     expectBytes(136, {1, 0, 0, 0});                      // allPasses
     // Second record: year -2, 23.15888888888889, 50.27, name.
-    expectBytes(kRecords + 36, {0xFE, 0xFF, 0xFF, 0xFF, 0xBE, 0x79, 0x35, 0xF1, 0xAC, 0x28,
-                                0x37, 0x40, 0xC3, 0xF5, 0x28, 0x5C, 0x8F, 0x22, 0x49, 0x40,
-                                'L',  'a',  'h',  'i',  'r',  'i',  0,    0,    0,    0});
+    expectBytes(recordsStart + 36, {0xFE, 0xFF, 0xFF, 0xFF, 0xBE, 0x79, 0x35, 0xF1, 0xAC, 0x28,
+                                    0x37, 0x40, 0xC3, 0xF5, 0x28, 0x5C, 0x8F, 0x22, 0x49, 0x40,
+                                    'L',  'a',  'h',  'i',  'r',  'i',  0,    0,    0,    0});
     EXPECT_EQ(decodeSettings(bytes).settings, settings);
 }
 
 TEST(SettingsFile, ClampsWhatIsOutOfRangeAndIgnoresWhatIsNoNumber)
 {
     Bytes bytes = encodeSettings({});
-    putInt(bytes, kBlockStart + 4, 10);      // ayanamsaRow
-    putInt(bytes, kBlockStart + 8, -1);      // houseSystem
-    putInt(bytes, kBlockStart + 12, -7);     // deltaTOn
-    putInt(bytes, kBlockStart + 19 * 4, 2);  // charaKarakas
-    putInt(bytes, kBlockStart + 25 * 4, 99); // dashaLevels
-    putDouble(bytes, 120, 0x7F, 0xF8);       // customYearDays not-a-number
+    putInt(bytes, kBlockStart + 4, 10);   // ayanamsaRow
+    putInt(bytes, kBlockStart + 8, -1);   // houseSystem
+    putInt(bytes, kBlockStart + 12, -7);  // deltaTOn
+    putInt(bytes, kBlockStart + 76, 2);   // charaKarakas
+    putInt(bytes, kBlockStart + 100, 99); // dashaLevels
+    putDouble(bytes, 120, 0x7F, 0xF8);    // customYearDays not-a-number
     const Settings read = decodeSettings(bytes).settings;
     EXPECT_EQ(read.ayanamsaRow, 9);
     EXPECT_EQ(read.houseSystem, 0);
@@ -185,8 +186,10 @@ TEST(SettingsFile, KeepsWhatIsThereOfACutFile)
         EXPECT_TRUE(read.laterFields.empty());
         EXPECT_EQ(read.settings.displayFlags, size < 16 ? 1 : 64) << size;
         EXPECT_EQ(read.settings.allPasses, size < 140) << size;
-        EXPECT_EQ(read.settings.ayanamsaTable[0].nameText(), size < 176 ? "Rosicru Ephm" : "mine");
-        EXPECT_EQ(read.settings.ayanamsaTable[9].annualRate, size < kFileSize ? 0.0 : 7.0) << size;
+        EXPECT_EQ(read.settings.ayanamsaTable[0].nameText(),
+                  size < recordsStart + 36 ? "Rosicru Ephm" : "mine");
+        EXPECT_EQ(read.settings.ayanamsaTable[9].annualRate, size < whole.size() ? 0.0 : 7.0)
+            << size;
     }
 }
 
@@ -197,13 +200,14 @@ TEST(SettingsFile, KeepsTheFieldsOfALaterVersion)
     stored.settings.ayanamsaTable[9].setName("last");
     stored.laterFields = {9, 8, 7, 6, 5};
     const Bytes bytes = encodeSettings(stored);
-    EXPECT_EQ(bytes[8], 137);
+    EXPECT_EQ(bytes[8], recordsStart - 8 + 5);
     const StoredSettings read = decodeSettings(bytes);
     EXPECT_EQ(read.settings, stored.settings);
     EXPECT_EQ(encodeSettings(read), bytes);
     // A shorter block is that of an earlier version; its records follow at once.
     Bytes shorter = bytes;
-    shorter.erase(shorter.begin() + kBlockStart + 16, shorter.begin() + kRecords + 5);
+    shorter.erase(shorter.begin() + kBlockStart + 16,
+                  shorter.begin() + std::ptrdiff_t(recordsStart + 5));
     putInt(shorter, 8, 20);
     EXPECT_EQ(decodeSettings(shorter).settings, stored.settings);
 }
@@ -213,19 +217,19 @@ TEST(SettingsFile, DamagedAyanamsaRecordsTakeTheirFactoryRow)
     const Bytes good = encodeSettings({});
     const auto damaged = [&](auto change) {
         Bytes bytes = good;
-        putInt(bytes, kRecords + 36, 1951); // a sound edit, lost together with the damage
+        putInt(bytes, recordsStart + 36, 1951); // a sound edit, lost together with the damage
         change(bytes);
         return decodeSettings(bytes).settings.ayanamsaTable;
     };
     EXPECT_EQ(damaged([](Bytes&) {})[1].epochYear, 1951);
     const AyanamsaTable& factory = factoryAyanamsaTable();
-    constexpr std::size_t kRow = kRecords + 36;
-    EXPECT_EQ(damaged([](Bytes& b) { putDouble(b, kRow + 4, 0x7F, 0xF8); }), factory);
-    EXPECT_EQ(damaged([](Bytes& b) { putDouble(b, kRow + 12, 0x7F, 0xF0); }), factory);
-    EXPECT_EQ(damaged([](Bytes& b) { putInt(b, kRow, 2000000000); }), factory);
-    EXPECT_EQ(damaged([](Bytes& b) { b[kRow + 20] = 0xFF; }), factory);
+    const std::size_t row = recordsStart + 36;
+    EXPECT_EQ(damaged([&](Bytes& b) { putDouble(b, row + 4, 0x7F, 0xF8); }), factory);
+    EXPECT_EQ(damaged([&](Bytes& b) { putDouble(b, row + 12, 0x7F, 0xF0); }), factory);
+    EXPECT_EQ(damaged([&](Bytes& b) { putInt(b, row, 2000000000); }), factory);
+    EXPECT_EQ(damaged([&](Bytes& b) { b[row + 20] = 0xFF; }), factory);
     // A name may fill all sixteen bytes.
-    const auto full = damaged([](Bytes& b) { std::fill_n(b.begin() + kRow + 20, 16, 'n'); });
+    const auto full = damaged([&](Bytes& b) { std::fill_n(&b[row + 20], 16, 'n'); });
     EXPECT_EQ(full[1].nameText(), std::string(16, 'n'));
 }
 
