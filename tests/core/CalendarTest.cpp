@@ -278,6 +278,9 @@ TEST(JulianDayToDate, CarriesSavingTimeIntoTheNextDate)
     EXPECT_EQ(dateOf(noon.time), Date(2024, 6, 30));
     EXPECT_NEAR(noon.time.localTime, 13.0, 1e-7);
     EXPECT_NEAR(noon.time.utHours, 11.0, 1e-7);
+    JulianDayToDate(noon);
+    EXPECT_EQ(noon.daylightSaving, 0) << "without a rule";
+    noon.daylightSaving = 1;
     const Saving none(0);
     JulianDayToDate(noon, &none);
     EXPECT_EQ(noon.daylightSaving, 0);
