@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/DateTime.h"
+#include "core/Identity.h"
 #include "core/Points.h"
 #include "core/Varga.h"
 
@@ -50,6 +51,7 @@ struct Chart
     // Identity.
     std::wstring name;
     std::wstring place;
+    Identity identity;
 
     // Birth data.
     DateTimeRecord time;
