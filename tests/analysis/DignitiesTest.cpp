@@ -48,39 +48,25 @@ TEST(Dignities, BandsOfTheRashiIncludeTheirLimits)
         double longitude;
         std::wstring_view word;
     };
-    const std::wstring own = L"Own";
-    const std::wstring root = L"Mulatrikona";
-    const std::wstring high = L"Exalted";
-    for (const Case& c : {Case{core::kMoon, 33.0, high},
-                          {core::kMoon, 33.01, root},
-                          {core::kMoon, 59.99, root},
-                          {core::kMoon, 95.0, own},
-                          {core::kMercury, 165.0, high},
-                          {core::kMercury, 165.01, root},
-                          {core::kMercury, 170.0, root},
-                          {core::kMercury, 170.5, own},
-                          {core::kMercury, 75.0, own},
-                          {core::kSun, 29.99, high},
-                          {core::kSun, 140.0, root},
-                          {core::kSun, 140.01, own},
-                          {core::kMars, 12.0, root},
-                          {core::kMars, 12.01, own},
-                          {core::kMars, 215.0, own},
-                          {core::kMars, 299.0, high},
-                          {core::kJupiter, 250.0, root},
-                          {core::kJupiter, 250.01, own},
-                          {core::kJupiter, 335.0, own},
-                          {core::kVenus, 195.0, root},
-                          {core::kVenus, 195.01, own},
-                          {core::kSaturn, 320.0, root},
-                          {core::kSaturn, 320.01, own},
-                          {core::kSaturn, 275.0, own},
-                          {core::kSaturn, 5.0, L"Debilitated"},
-                          {core::kDhuma, 125.0, high},
-                          {core::kDhuma, 305.0, L"Debilitated"},
-                          {core::kParivesha, 5.0, L"Neutral"},
-                          {core::kIndrachapa, 245.0, L"Neutral"},
-                          {core::kUpaketu, 305.0, L"Neutral"}}) {
+    const std::wstring_view own = L"Own";
+    const std::wstring_view root = L"Mulatrikona";
+    const std::wstring_view high = L"Exalted";
+    const std::wstring_view low = L"Debilitated";
+    const std::wstring_view none = L"Neutral";
+    using namespace core;
+    // clang-format off
+    for (const Case& c : {
+             Case{kMoon, 33.0, high}, {kMoon, 33.01, root}, {kMoon, 59.99, root}, {kMoon, 95.0, own},
+             {kMercury, 165.0, high}, {kMercury, 165.01, root}, {kMercury, 170.0, root},
+             {kMercury, 170.5, own}, {kMercury, 75.0, own},
+             {kSun, 29.99, high}, {kSun, 140.0, root}, {kSun, 140.01, own},
+             {kMars, 12.0, root}, {kMars, 12.01, own}, {kMars, 215.0, own}, {kMars, 299.0, high},
+             {kJupiter, 250.0, root}, {kJupiter, 250.01, own}, {kJupiter, 335.0, own},
+             {kVenus, 195.0, root}, {kVenus, 195.01, own},
+             {kSaturn, 320.0, root}, {kSaturn, 320.01, own}, {kSaturn, 275.0, own}, {kSaturn, 5.0, low},
+             {kDhuma, 125.0, high}, {kDhuma, 305.0, low}, {kParivesha, 5.0, none},
+             {kIndrachapa, 245.0, none}, {kUpaketu, 305.0, none}}) {
+        // clang-format on
         EXPECT_EQ(wordAt(c.point, c.longitude), c.word) << c.point << " at " << c.longitude;
     }
 }

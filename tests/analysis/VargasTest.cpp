@@ -11,6 +11,8 @@
 #include <cmath>
 #include <random>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace kestrav::analysis
 {
@@ -147,24 +149,13 @@ TEST(Vargas, PartsBeginAndEndWhereTheRulesSay)
 
 TEST(Vargas, HoraOfDayAndNightSigns)
 {
-    // First and second half of each sign: the two signs of one lord.
-    constexpr std::array<std::array<int, 2>, 12> kHalves = {{{8, 1},
-                                                             {2, 7},
-                                                             {6, 3},
-                                                             {4, 5},
-                                                             {5, 4},
-                                                             {3, 6},
-                                                             {7, 2},
-                                                             {1, 8},
-                                                             {12, 9},
-                                                             {10, 11},
-                                                             {11, 10},
-                                                             {9, 12}}};
+    // First and second half of Aries to Pisces: the two signs of one lord.
+    constexpr std::array<int, 24> kHalves = {8, 1, 2, 7, 6,  3, 4,  5,  5,  4,  3, 6,
+                                             7, 2, 1, 8, 12, 9, 10, 11, 11, 10, 9, 12};
     const core::Settings settings = with(&core::Settings::horaMethod, 3);
     for (int half = 0; half < 24; ++half) {
-        const int sign = at(at(kHalves, half / 2), half % 2);
-        EXPECT_EQ(signAt(settings, core::kHora, 15.0 * half), sign) << half;
-        EXPECT_EQ(signAt(settings, core::kHora, 15.0 * half + 14.999999), sign) << half;
+        EXPECT_EQ(signAt(settings, core::kHora, 15.0 * half), at(kHalves, half));
+        EXPECT_EQ(signAt(settings, core::kHora, 15.0 * half + 14.999999), at(kHalves, half));
     }
 }
 
@@ -229,22 +220,21 @@ TEST(Vargas, RashiHasTheStepsOfItsFifths)
     struct Case
     {
         double degree;
-        int odd;
-        int even;
+        std::array<int, 2> steps; // even and odd signs
     };
-    for (const Case& c : {Case{0.0, 1, 0},
-                          {3.0, 1, 0},
-                          {9.0, 2, 0},
-                          {15.0, 4, 4},
-                          {21.0, 0, 2},
-                          {27.0, 0, 1},
-                          {29.99995, 0, 1}}) {
+    for (const Case& c : {Case{0.0, {0, 1}},
+                          {3.0, {0, 1}},
+                          {9.0, {0, 2}},
+                          {15.0, {4, 4}},
+                          {21.0, {2, 0}},
+                          {27.0, {1, 0}},
+                          {29.99995, {1, 0}}}) {
         for (int sign = 1; sign <= 12; ++sign) {
             core::Chart chart;
             place(chart, core::kSun, (sign - 1) * 30.0 + c.degree);
             computeVarga(chart, core::kRashi, core::kSun, {});
             const core::VargaPlacement& placement = chart.vargas[core::kRashi][core::kSun];
-            EXPECT_EQ(placement.strengthStep, sign % 2 != 0 ? c.odd : c.even) << c.degree;
+            EXPECT_EQ(placement.strengthStep, at(c.steps, sign % 2)) << c.degree;
             EXPECT_EQ(placement.sign, sign);
             EXPECT_EQ(placement.position, chart.degreeInSign[core::kSun]);
         }
@@ -360,15 +350,9 @@ TEST(Vargas, NamesAndDivisionsFindTheirVarga)
 
 TEST(Vargas, TwentySecondDrekkanaIsTheEighthFromTheDrekkana)
 {
-    core::Chart chart;
-    struct Case
-    {
-        double longitude;
-        int sign;
-    };
-    for (const Case& c : {Case{5.0, 8}, {10.0, 12}, {29.0, 4}, {351.0, 3}}) {
-        place(chart, core::kAscendant, c.longitude);
-        EXPECT_EQ(twentySecondDrekkanaSign(chart, core::kAscendant), c.sign) << c.longitude;
+    for (const auto& [longitude, sign] : {std::pair{5.0, 8}, {10.0, 12}, {29.0, 4}, {351.0, 3}}) {
+        const core::Chart chart = chartOf({longitude});
+        EXPECT_EQ(twentySecondDrekkanaSign(chart, core::kAscendant), sign) << longitude;
     }
 }
 
