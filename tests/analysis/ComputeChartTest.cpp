@@ -318,6 +318,13 @@ TEST(ComputeChart, DayBeginsAtSunrise)
         ASSERT_TRUE(chart.vedicDay);
         EXPECT_NEAR(chart.vedicDay->sunrise, *chart.sunrise - (weekday == 7 ? 24.0 : 0.0), 0.03);
     }
+    // Saving time is on the clock.
+    core::Chart summer = birthOf(2021, 3, 21, 7.0, 5.5, 28.6139, 77.209);
+    summer.daylightSaving = 1;
+    summer = computed(summer);
+    EXPECT_NEAR(*summer.sunrise, 7.0 + 27.0 / 60.0, 0.03);
+    EXPECT_EQ(summer.time.utHours, 0.5);
+    EXPECT_EQ(summer.weekday, 7);
     // In the polar night the civil weekday holds.
     const core::Chart polar = computed(birthOf(2021, 12, 21, 3.0, 1.0, 78.2, 15.6));
     EXPECT_FALSE(polar.sunrise || polar.sunset || polar.vedicDay);

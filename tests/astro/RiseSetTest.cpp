@@ -1,4 +1,5 @@
 #include "astro/RiseSet.h"
+#include "astro/Bodies.h"
 #include "core/numeric.h"
 #include "tests/astro/SeriesForTests.h"
 
@@ -173,6 +174,30 @@ TEST_F(RiseSet, MoonSkipsADayOnceAMonth)
         EXPECT_NEAR(altitudeOf(moon[0], dayUt, dayTt, delhi), 0.7275 * parallax - 0.5667, 0.006);
     }
     EXPECT_EQ(without, 2);
+}
+
+TEST_F(RiseSet, PutsPlanetsAtTheAltitudeOfRefraction)
+{
+    const Observer delhi{77.209, 28.6139, 5.5};
+    const core::DateTimeRecord date = dateOf(2022, 5, 4);
+    for (const int point : {core::kVenus, core::kSaturn, core::kPluto}) {
+        for (const HorizonEvent event : {HorizonEvent::Rise, HorizonEvent::Set}) {
+            const std::optional<double> hour = bodyEvent(context, date, delhi, point, event);
+            ASSERT_TRUE(hour) << point;
+            ASSERT_TRUE(*hour >= 0.0 && *hour < 24.0) << point;
+            const double dayUt = dayOf(date, *hour, delhi);
+            const double dayTt = dayUt + date.deltaTDays;
+            context.setTime(core::timeArguments(dayTt / core::kDaysPerCentury));
+            PlanetPosition(context, codeOfPoint(point));
+            double ecliptic[3];
+            double rotation[3][3];
+            double direction[3];
+            eraS2c(context.result.longitude * kDegree, context.result.latitude, ecliptic);
+            eraEcm06(core::kEpoch1900, dayTt, rotation);
+            eraTrxp(rotation, ecliptic, direction);
+            EXPECT_NEAR(altitudeOf(direction, dayUt, dayTt, delhi), -0.5667, 1e-3) << point;
+        }
+    }
 }
 
 TEST_F(RiseSet, DayRunsFromTheLastSunrise)

@@ -1,7 +1,6 @@
 // The reference positions of tests/data/sky.csv and the largest differences from them.
 #pragma once
 
-#include "core/Angles.h"
 #include "core/DateTime.h"
 
 #include <algorithm>
