@@ -72,7 +72,7 @@ TEST(Arudhas, PointsHaveTheDegreeOfTheAscendant)
 // and one of the three helpers (Mars himself; the Moon, who aspects Cancer from Taurus).
 struct CoLords
 {
-    SignView view = viewOf({1, 3, 2, 1, 3, 3, 3, 3, 10, 4});
+    SignView view = viewOf({1, 3, 2, 1, 3, 3, 3, 3, 3, 4});
 
     CoLords& sign(int planet, int sign)
     {
@@ -120,16 +120,24 @@ TEST(Arudhas, StrongerOfTwoLords)
 
 TEST(Arudhas, StrongerOfTwoSigns)
 {
-    // Aries and Scorpio, both of Mars, empty and without help but that of Mars.
-    const auto stronger = [](const std::array<int, 10>& signs) {
+    // Mars rules Aries and Scorpio; in Gemini he helps neither.
+    const auto stronger = [](std::array<int, 10> signs) {
         return strongerSign(viewOf(signs), 1, 8);
     };
-    EXPECT_EQ(stronger({1, 3, 3, 3, 3, 3, 3, 3, 8, 3}), 8);  // a planet more
-    EXPECT_EQ(stronger({1, 3, 3, 3, 3, 2, 3, 3, 3, 3}), 8);  // neither aspected, fixed over movable
+    EXPECT_EQ(stronger({1, 3, 3, 6, 3, 3, 3, 3, 8, 3}), 8);  // a planet more
     EXPECT_EQ(stronger({1, 3, 3, 3, 3, 11, 3, 3, 3, 3}), 1); // aspected by Jupiter
     EXPECT_EQ(stronger({1, 1, 3, 3, 3, 3, 3, 3, 8, 3}), 1);  // the Sun is exalted
-    // Lord in a sign of the other parity: Mars in Gemini for Scorpio, in Virgo for Aries.
+    // The lord in a sign of the other parity: in Gemini for Scorpio, in Virgo for Aries.
+    EXPECT_EQ(stronger({1, 3, 3, 3, 3, 3, 3, 3, 3, 3}), 8);
     EXPECT_EQ(stronger({1, 3, 3, 6, 3, 3, 3, 3, 3, 3}), 1);
+    // All planets in Gemini: Leo is fixed; Aries and Libra differ in the degrees of their
+    // lords.
+    SignView view = viewOf({1, 3, 3, 3, 3, 3, 3, 3, 3, 3});
+    EXPECT_EQ(strongerSign(view, 1, 7), 1);
+    view.degree[core::kMars] = 4.0;
+    EXPECT_EQ(strongerSign(view, 1, 5), 5);
+    view.degree[core::kVenus] = 5.0;
+    EXPECT_EQ(strongerSign(view, 1, 7), 7);
 }
 
 } // namespace

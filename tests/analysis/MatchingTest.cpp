@@ -142,7 +142,8 @@ TEST(Matching, DoshasBesideThePoints)
     EXPECT_FALSE(matched(star(4, 1), star(4, 3)).doshas[kVedhaDosha].holds);
 
     // 6/8: Aries and Scorpio have one lord; 2/12: Cancer and Leo are ruled by friends; 5/9: Gemini
-    // and Aquarius not: Saturn is neutral to Mercury.
+    // and Aquarius not: Saturn is neutral to Mercury; Cancer and Gemini not: only Mercury is the
+    // other's friend.
     struct Case
     {
         int groom;
@@ -150,8 +151,12 @@ TEST(Matching, DoshasBesideThePoints)
         bool holds;
         bool cancelled;
     };
-    for (const Case& c :
-         {Case{1, 8, true, true}, {4, 5, true, true}, {3, 11, true, false}, {1, 4, false, false}}) {
+    for (const Case& c : {Case{1, 8, true, true},
+                          {4, 5, true, true},
+                          {3, 11, true, false},
+                          {4, 3, true, false},
+                          {3, 4, true, false},
+                          {1, 4, false, false}}) {
         const Matching matching = matched(c.groom * 30.0 - 20.0, c.bride * 30.0 - 20.0);
         EXPECT_EQ(matching.doshas[kBhakutaDosha].holds, c.holds);
         EXPECT_EQ(matching.doshas[kBhakutaDosha].cancelled, c.cancelled) << c.groom;

@@ -225,6 +225,7 @@ TEST(Vargas, RashiHasTheStepsOfItsFifths)
     for (const Case& c : {Case{0.0, {0, 1}},
                           {3.0, {0, 1}},
                           {9.0, {0, 2}},
+                          {12.0, {4, 4}},
                           {15.0, {4, 4}},
                           {21.0, {2, 0}},
                           {27.0, {1, 0}},
