@@ -199,10 +199,13 @@ bool obstruct(const MatchingTables& tables, int a, int b)
     const auto next = [&](int star) {
         return tables.vedha[static_cast<std::size_t>(star)];
     };
-    for (int star = next(a); star != a; star = next(star)) {
+    // Tables that were never read hold no chain, so the walk is bounded.
+    int star = next(a);
+    for (std::size_t step = 0; step < tables.vedha.size() && star != a; ++step) {
         if (star == b) {
             return true;
         }
+        star = next(star);
     }
     return false;
 }
