@@ -62,6 +62,8 @@ TEST_P(Sky, AgreesWithThePlanetaryEphemeris)
             longitudeBeyond.add(away, row.year());
         }
         speed.add((body.speed - row.speed) * 3600.0, row.year());
+        EXPECT_NEAR(arcSeconds(body.geometricLongitude, body.longitude) / 3600.0,
+                    body.speed * body.lightTime, 1e-10);
     }
     EXPECT_EQ(longitudeNear.count, 39);
     EXPECT_EQ(longitudeFar.count, 21);

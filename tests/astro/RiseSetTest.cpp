@@ -10,6 +10,7 @@
 #include <cmath>
 #include <optional>
 #include <random>
+#include <vector>
 
 namespace kestrav::astro
 {
@@ -142,38 +143,70 @@ TEST_F(RiseSet, HasNoSunriseNearThePoles)
     }
 }
 
-TEST_F(RiseSet, MoonSkipsADayOnceAMonth)
+// The rising of every day of a stretch, in hours from its first day, with the days that have none.
+struct Risings
 {
-    const Observer delhi{77.209, 28.6139, 5.5};
-    int without = 0;
-    double before = 0.0; // the last moonrise, hours from the first date
-    for (int day = 0; day < 59; ++day) {
+    std::vector<double> hours;
+    int missing = 0;
+};
+
+Risings risings(EphemerisContext& context, int point, const Observer& observer, int days)
+{
+    Risings result;
+    for (int day = 0; day < days; ++day) {
         core::DateTimeRecord date = dateOf(2022, 1, 1);
         core::addDays(date, day);
-        const std::optional<double> rise =
-            bodyEvent(context, date, delhi, core::kMoon, HorizonEvent::Rise);
-        if (!rise) {
-            ++without;
+        const std::optional<double> hour =
+            bodyEvent(context, date, observer, point, HorizonEvent::Rise);
+        if (!hour) {
+            ++result.missing;
             continue;
         }
-        EXPECT_GE(*rise, 0.0);
-        EXPECT_LT(*rise, 24.0);
-        const double hours = *rise + 24.0 * day;
-        if (before > 0.0) {
-            EXPECT_NEAR(hours - before, 24.84, 0.6) << day;
-        }
-        before = hours;
-
-        // The centre stands at 0.7275 of the parallax less the refraction of 34 minutes.
-        const double dayUt = dayOf(date, *rise, delhi);
-        const double dayTt = dayUt + date.deltaTDays;
-        double moon[2][3];
-        eraMoon98(core::kEpoch1900, dayTt, moon);
-        const double parallax = std::asin(6378.14 / (eraPm(moon[0]) * 149597870.7)) / kDegree;
-        // The approximate Moon is off by up to 18 arc seconds.
-        EXPECT_NEAR(altitudeOf(moon[0], dayUt, dayTt, delhi), 0.7275 * parallax - 0.5667, 0.006);
+        EXPECT_TRUE(*hour >= 0.0 && *hour < 24.0) << day;
+        result.hours.push_back(*hour + 24.0 * day);
     }
-    EXPECT_EQ(without, 2);
+    return result;
+}
+
+TEST_F(RiseSet, MoonSkipsADayOnceAMonth)
+{
+    const core::DateTimeRecord first = dateOf(2022, 1, 1);
+    for (const double clockOffset : {5.5, -9.0}) {
+        const Observer delhi{77.209, 28.6139, clockOffset};
+        const Risings moonrises = risings(context, core::kMoon, delhi, 59);
+        EXPECT_EQ(moonrises.missing, 2);
+        for (std::size_t i = 0; i < moonrises.hours.size(); ++i) {
+            if (i > 0) {
+                EXPECT_NEAR(moonrises.hours[i] - moonrises.hours[i - 1], 24.84, 0.6) << i;
+            }
+            // The centre stands at 0.7275 of the parallax less the refraction of 34 minutes.
+            const double dayUt = dayOf(first, moonrises.hours[i], delhi);
+            const double dayTt = dayUt + first.deltaTDays;
+            double moon[2][3];
+            eraMoon98(core::kEpoch1900, dayTt, moon);
+            const double parallax = std::asin(6378.14 / (eraPm(moon[0]) * 149597870.7)) / kDegree;
+            // The approximate Moon is off by up to 18 arc seconds.
+            EXPECT_NEAR(altitudeOf(moon[0], dayUt, dayTt, delhi), 0.7275 * parallax - 0.5667,
+                        0.006);
+        }
+    }
+}
+
+TEST_F(RiseSet, PlanetsGiveTheEarlierOfTwoRisings)
+{
+    // Saturn rises 3.9 minutes earlier every day, so once a year it rises twice on one date.
+    for (const double clockOffset : {5.5, -9.0}) {
+        const Risings saturn =
+            risings(context, core::kSaturn, Observer{77.209, 28.6139, clockOffset}, 370);
+        EXPECT_EQ(saturn.missing, 0);
+        int twice = 0;
+        for (std::size_t i = 1; i < saturn.hours.size(); ++i) {
+            const double between = saturn.hours[i] - saturn.hours[i - 1];
+            twice += between > 40.0;
+            EXPECT_NEAR(between, between > 40.0 ? 47.87 : 23.935, 0.05) << i;
+        }
+        EXPECT_EQ(twice, 1);
+    }
 }
 
 TEST_F(RiseSet, PutsPlanetsAtTheAltitudeOfRefraction)
