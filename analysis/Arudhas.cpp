@@ -29,7 +29,28 @@ int padaSign(int from, int lordSign)
     return fromHouse == 0 || fromHouse == 6 ? norm12(pada + 9) : pada;
 }
 
-int ownSign(const SignView& view, int planet)
+int pointOfHouse(int house)
+{
+    return core::kArudhaPada1 + house - 1;
+}
+
+} // namespace
+
+std::array<int, 12> arudhaSigns(const SignView& view, bool coLords)
+{
+    std::array<int, 12> signs{};
+    if (view.sign[core::kAscendant] == 0) {
+        return signs;
+    }
+    for (int house = 1; house <= kArudhaHouses; ++house) {
+        const int sign = norm12(view.sign[core::kAscendant] + house - 1);
+        const int lord = lordOfSign(view, sign, coLords);
+        at(signs, house - 1) = padaSign(sign, at(view.sign, lord));
+    }
+    return signs;
+}
+
+int arudhaOwnSign(const SignView& view, int planet)
 {
     switch (planet) {
     case core::kSun:
@@ -53,30 +74,9 @@ int ownSign(const SignView& view, int planet)
     }
 }
 
-int pointOfHouse(int house)
-{
-    return core::kArudhaPada1 + house - 1;
-}
-
-} // namespace
-
-std::array<int, 12> arudhaSigns(const SignView& view, bool coLords)
-{
-    std::array<int, 12> signs{};
-    if (view.sign[core::kAscendant] == 0) {
-        return signs;
-    }
-    for (int house = 1; house <= kArudhaHouses; ++house) {
-        const int sign = norm12(view.sign[core::kAscendant] + house - 1);
-        const int lord = lordOfSign(view, sign, coLords);
-        at(signs, house - 1) = padaSign(sign, at(view.sign, lord));
-    }
-    return signs;
-}
-
 int arudhaOfPlanet(const SignView& view, int planet)
 {
-    return padaSign(at(view.sign, planet), ownSign(view, planet));
+    return padaSign(at(view.sign, planet), arudhaOwnSign(view, planet));
 }
 
 void computeArudhaPoints(core::Chart& chart, const core::Settings& settings)

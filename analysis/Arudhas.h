@@ -15,8 +15,11 @@ namespace kestrav::analysis
 /// its seventh moves on to the tenth from there. 0 without the ascendant or the lord.
 [[nodiscard]] std::array<int, 12> arudhaSigns(const SignView& view, bool coLords);
 
-/// Arudha sign of a planet 1 to 9, counted to its own sign (Aquarius for Rahu, Scorpio for Ketu; of
-/// two own signs the stronger one); 0 when the planet was not computed.
+/// The own sign to which the arudha of a planet 1 to 9 is counted: Aquarius for Rahu, Scorpio for
+/// Ketu; of two own signs the stronger one.
+[[nodiscard]] int arudhaOwnSign(const SignView& view, int planet);
+
+/// Arudha sign of a planet 1 to 9, counted to its own sign; 0 when the planet was not computed.
 [[nodiscard]] int arudhaOfPlanet(const SignView& view, int planet);
 
 /// The longitudes of the arudha points 31 and 47 to 58 of a chart: the pada's sign with the degree

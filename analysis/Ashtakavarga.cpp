@@ -120,6 +120,16 @@ int binduTotal(int receiver)
     return at(kTotals, receiver);
 }
 
+int pindaSignWeight(int sign)
+{
+    return at(kSignWeights, sign - 1);
+}
+
+int pindaPlanetWeight(int planet)
+{
+    return at(kPlanetWeights, planet);
+}
+
 SignRow12 countOccupants(const core::Chart& chart, int varga)
 {
     SignRow12 occupants{};

@@ -72,6 +72,10 @@ struct Ashtakavarga
 /// Ekadhipatya reduction of a row: the two signs of one lord. Cancer and Leo are never touched.
 [[nodiscard]] SignRow12 ekadhipatyaReduction(const SignRow12& row, const SignRow12& occupants);
 
+/// Weight of a sign 1 to 12 in the rashi pinda and of a planet 1 to 7 in the graha pinda.
+[[nodiscard]] int pindaSignWeight(int sign);
+[[nodiscard]] int pindaPlanetWeight(int planet);
+
 /// A kakshya is an eighth of a sign, 3 degrees 45 minutes.
 struct Kakshya
 {

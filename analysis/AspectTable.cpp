@@ -36,6 +36,17 @@ std::optional<Target> houseTarget(const core::Chart& chart, int house)
     return std::nullopt;
 }
 
+std::optional<Target> targetAt(const core::Chart& chart, int point)
+{
+    if (point >= core::kCusp1 && point <= core::kCusp12) {
+        return houseTarget(chart, point - core::kCusp1 + 1);
+    }
+    if (!chart.computed(point)) {
+        return std::nullopt;
+    }
+    return Target{point, at(chart.rashi, point), at(chart.longitude, point)};
+}
+
 Aspect aspectOn(const core::Chart& chart, int from, const Target& target,
                 const core::Settings& settings)
 {
@@ -52,14 +63,24 @@ Aspect aspectOn(const core::Chart& chart, int from, const Target& target,
 
 } // namespace
 
+std::optional<Aspect> aspectOnPoint(const core::Chart& chart, int from, int to,
+                                    const core::Settings& settings)
+{
+    const std::optional<Target> target = targetAt(chart, to);
+    if (!target || !chart.computed(from)) {
+        return std::nullopt;
+    }
+    return aspectOn(chart, from, *target, settings);
+}
+
 std::vector<Aspect> bodyAspects(const core::Chart& chart, const core::Settings& settings)
 {
     std::vector<Aspect> aspects;
     for (int from = core::kSun; from <= core::kKetu; ++from) {
         for (int to = core::kSun; to <= core::kKetu; ++to) {
-            if (from != to && chart.computed(from) && chart.computed(to)) {
-                const Target target = {to, at(chart.rashi, to), at(chart.longitude, to)};
-                aspects.push_back(aspectOn(chart, from, target, settings));
+            const std::optional<Aspect> aspect = aspectOnPoint(chart, from, to, settings);
+            if (from != to && aspect) {
+                aspects.push_back(*aspect);
             }
         }
     }
@@ -71,9 +92,8 @@ std::vector<Aspect> houseAspects(const core::Chart& chart, const core::Settings&
     std::vector<Aspect> aspects;
     for (int from = core::kSun; from <= core::kKetu; ++from) {
         for (int house = 1; house <= 12; ++house) {
-            const std::optional<Target> target = houseTarget(chart, house);
-            if (target && chart.computed(from)) {
-                aspects.push_back(aspectOn(chart, from, *target, settings));
+            if (const auto aspect = aspectOnPoint(chart, from, core::cuspPoint(house), settings)) {
+                aspects.push_back(*aspect);
             }
         }
     }

@@ -5,6 +5,7 @@
 #include "core/Chart.h"
 #include "core/Settings.h"
 
+#include <optional>
 #include <vector>
 
 namespace kestrav::analysis
@@ -18,6 +19,11 @@ struct Aspect
     bool rashi = false; ///< sign aspect
     Strength value;     ///< 0 to 60; empty from the nodes, which cast full aspects only
 };
+
+/// The aspect of a body 1 to 9 on any other point, on houses as houseAspects has it; nothing when
+/// one of them has no position.
+[[nodiscard]] std::optional<Aspect> aspectOnPoint(const core::Chart& chart, int from, int to,
+                                                  const core::Settings& settings);
 
 /// The aspects of every body Sun to Ketu that has a position on every other one, also those that do
 /// not hold: 72 of them when all nine bodies are there.

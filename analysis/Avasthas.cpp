@@ -50,17 +50,12 @@ int starOf(const core::Chart& chart, int body)
 std::optional<ShayanadiState> shayanadiOf(const core::Chart& chart, const StrengthInputs& inputs,
                                           int body, int nameLetterValue)
 {
-    if (!inputs.hoursSinceSunrise || !chart.computed(core::kMoon) ||
-        !chart.computed(core::kAscendant)) {
+    const std::optional<ShayanadiCount> count = shayanadiCount(chart, inputs, body);
+    if (!count) {
         return std::nullopt;
     }
-    const int navamsha = core::ClampRange(
-        1, 9, core::truncated(at(chart.degreeInSign, body) * 9.0 * (1.0 / 30.0)) + 1);
-    const int runningGhati = core::truncated(*inputs.hoursSinceSunrise * kGhatisPerHour) + 1;
-    const int count = starOf(chart, body) * body * navamsha + starOf(chart, core::kMoon) +
-                      runningGhati + chart.rashi[core::kAscendant];
     ShayanadiState state;
-    state.state = Shayanadi(core::norm12(count));
+    state.state = Shayanadi(core::norm12(count->total()));
     if (nameLetterValue >= 1 && nameLetterValue <= 5) {
         state.part = shayanadiPart(state.state, body, nameLetterValue);
     }
@@ -100,6 +95,20 @@ std::array<Avasthas, 10> computeAvasthas(const core::Chart& chart, const Strengt
         at(avasthas, body) = avasthasOf(chart, inputs, benefic, body, nameLetterValue, settings);
     }
     return avasthas;
+}
+
+std::optional<ShayanadiCount> shayanadiCount(const core::Chart& chart, const StrengthInputs& inputs,
+                                             int body)
+{
+    if (!inputs.hoursSinceSunrise || !chart.computed(core::kMoon) ||
+        !chart.computed(core::kAscendant)) {
+        return std::nullopt;
+    }
+    const int navamsha = core::ClampRange(
+        1, 9, core::truncated(at(chart.degreeInSign, body) * 9.0 * (1.0 / 30.0)) + 1);
+    const int ghati = core::truncated(*inputs.hoursSinceSunrise * kGhatisPerHour) + 1;
+    return ShayanadiCount{starOf(chart, body),        body,  navamsha,
+                          starOf(chart, core::kMoon), ghati, chart.rashi[core::kAscendant]};
 }
 
 ShayanadiPart shayanadiPart(Shayanadi state, int body, int nameLetterValue)

@@ -109,6 +109,26 @@ struct Avasthas
                                                        int nameLetterValue,
                                                        const core::Settings& settings);
 
+/// The numbers that are counted together for the occupation of a body.
+struct ShayanadiCount
+{
+    int star = 0;      ///< nakshatra of the body, 1 to 27
+    int body = 0;      ///< its number, Sun 1 to Ketu 9
+    int navamsha = 0;  ///< its navamsha part in the sign, 1 to 9
+    int moonStar = 0;  ///< nakshatra of the Moon
+    int ghati = 0;     ///< running ghati since sunrise, the first is 1
+    int ascendant = 0; ///< sign of the ascendant
+
+    [[nodiscard]] int total() const
+    {
+        return star * body * navamsha + moonStar + ghati + ascendant;
+    }
+};
+
+/// Nothing where the time since sunrise, the Moon or the ascendant is not known.
+[[nodiscard]] std::optional<ShayanadiCount> shayanadiCount(const core::Chart& chart,
+                                                           const StrengthInputs& inputs, int body);
+
 /// The sub-state of an occupation of body 1 to 9 for a name-letter value 1 to 5.
 [[nodiscard]] ShayanadiPart shayanadiPart(Shayanadi state, int body, int nameLetterValue);
 

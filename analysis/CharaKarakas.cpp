@@ -15,12 +15,6 @@ constexpr std::array<std::wstring_view, 7> kSevenNames = {L"Atma",  L"Amatya", L
 constexpr std::array<std::wstring_view, 8> kEightNames = {L"Atma",  L"Amatya", L"Bhratri", L"Matri",
                                                           L"Pitri", L"Putra",  L"Jnati",   L"Dara"};
 
-double advancementOf(const core::Chart& chart, int planet)
-{
-    const double degree = core::at(chart.degreeInSign, planet);
-    return planet == core::kRahu ? 30.0 - degree : degree;
-}
-
 template <std::size_t Count>
 std::optional<std::array<int, Count>> ranked(const core::Chart& chart)
 {
@@ -32,14 +26,20 @@ std::optional<std::array<int, Count>> ranked(const core::Chart& chart)
         }
     }
     std::sort(planets.begin(), planets.end(), [&](int left, int right) {
-        const double first = advancementOf(chart, left);
-        const double second = advancementOf(chart, right);
+        const double first = karakaAdvancement(chart, left);
+        const double second = karakaAdvancement(chart, right);
         return first > second || (first == second && left < right);
     });
     return planets;
 }
 
 } // namespace
+
+double karakaAdvancement(const core::Chart& chart, int planet)
+{
+    const double degree = core::at(chart.degreeInSign, planet);
+    return planet == core::kRahu ? 30.0 - degree : degree;
+}
 
 std::span<const std::wstring_view, 7> sevenKarakaNames()
 {

@@ -15,6 +15,9 @@ namespace kestrav::analysis
 [[nodiscard]] std::span<const std::wstring_view, 7> sevenKarakaNames();
 [[nodiscard]] std::span<const std::wstring_view, 8> eightKarakaNames();
 
+/// How far a planet 1 to 8 has moved through its sign, in degrees; Rahu counts from the end.
+[[nodiscard]] double karakaAdvancement(const core::Chart& chart, int planet);
+
 /// The planets Sun to Saturn in the order of rank: the one furthest in its sign comes first, equal
 /// ones keep the order of the points. Nothing when one of them is not computed.
 [[nodiscard]] std::optional<std::array<int, 7>> sevenKarakas(const core::Chart& chart);

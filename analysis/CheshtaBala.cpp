@@ -45,14 +45,9 @@ double meanLongitude(int planet, double julianDay)
     return core::Normalize360(motion.atJ2000 + motion.daily * (julianDay - kJ2000));
 }
 
-Strength cheshtaBala(const core::Chart& chart, const StrengthInputs& inputs, int planet)
+std::optional<CheshtaReckoning> cheshtaReckoning(const core::Chart& chart,
+                                                 const StrengthInputs& inputs, int planet)
 {
-    if (!chart.computed(planet)) {
-        return std::nullopt;
-    }
-    if (planet == core::kSun || planet == core::kMoon) {
-        return 0.0;
-    }
     if (!inputs.julianDay || !inputs.ayanamsa) {
         return std::nullopt;
     }
@@ -61,7 +56,20 @@ Strength cheshtaBala(const core::Chart& chart, const StrengthInputs& inputs, int
     const double mean = isInner(planet) ? sun : own;
     const double apex = isInner(planet) ? own : sun;
     const double equation = core::Wrap180(core::Normalize360(at(chart.longitude, planet) - mean));
-    return arcBetween(apex, mean + equation / 2.0) / 3.0;
+    return CheshtaReckoning{mean, apex, mean + equation / 2.0};
+}
+
+Strength cheshtaBala(const core::Chart& chart, const StrengthInputs& inputs, int planet)
+{
+    if (!chart.computed(planet)) {
+        return std::nullopt;
+    }
+    if (planet == core::kSun || planet == core::kMoon) {
+        return 0.0;
+    }
+    const std::optional<CheshtaReckoning> reckoning = cheshtaReckoning(chart, inputs, planet);
+    return reckoning ? Strength(arcBetween(reckoning->apex, reckoning->corrected) / 3.0)
+                     : std::nullopt;
 }
 
 } // namespace kestrav::analysis

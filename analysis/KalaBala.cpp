@@ -80,8 +80,7 @@ Strength tribhaga(const StrengthInputs& inputs, int planet)
     if (!inputs.dayThird) {
         return std::nullopt;
     }
-    const auto& lords = inputs.dayThird->byDay ? kDayThirdLords : kNightThirdLords;
-    return at(lords, inputs.dayThird->third) == planet ? kFull : 0.0;
+    return thirdLord(*inputs.dayThird) == planet ? kFull : 0.0;
 }
 
 Strength lordship(const std::optional<int>& lord, int planet, double value)
@@ -143,6 +142,11 @@ KalaBala kalaBala(const core::Chart& chart, const StrengthInputs& inputs,
     bala.hora = lordship(inputs.horaLord, planet, 60.0);
     bala.ayana = ayana(chart, inputs, planet);
     return bala;
+}
+
+int thirdLord(const DayThird& third)
+{
+    return at(third.byDay ? kDayThirdLords : kNightThirdLords, third.third);
 }
 
 int yearLord(double julianDay0h)

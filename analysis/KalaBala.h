@@ -29,6 +29,9 @@ struct KalaBala
 [[nodiscard]] KalaBala kalaBala(const core::Chart& chart, const StrengthInputs& inputs,
                                 const NaturalBenefics& benefic, int planet);
 
+/// The planet that rules a third of the day or night.
+[[nodiscard]] int thirdLord(const DayThird& third);
+
 /// Lord 1 to 7 of the year of 360 days in which a day falls, counted from the creation of the Surya
 /// Siddhanta. `julianDay0h` ends in .5.
 [[nodiscard]] int yearLord(double julianDay0h);

@@ -40,19 +40,6 @@ BodySet naturalRelations(int body, int wanted)
     return set;
 }
 
-// Compound relationship towards the lord of the sign, also where the body is debilitated there. 3
-// is the body itself; the nodes have theirs by the sign, with 4 and -3 for exaltation and
-// debilitation.
-int relationshipToLord(const core::Chart& chart, int body, const core::Settings& settings)
-{
-    const int sign = at(chart.rashi, body);
-    if (body > core::kSaturn) {
-        return nodeRelationship(body, sign, settings.nodeDignityScheme);
-    }
-    const int lord = signLord(sign);
-    return chart.computed(lord) ? at(at(chart.compound, body), lord) : kNeutral;
-}
-
 bool inFifth(const core::Chart& chart, int body)
 {
     return chart.computed(core::kAscendant) &&
@@ -81,6 +68,16 @@ Company companyOf(const core::Chart& chart, const NaturalBenefics& benefic, int 
         company.malefics[slot] = !at(benefic, other);
     }
     return company;
+}
+
+int relationshipToLord(const core::Chart& chart, int body, const core::Settings& settings)
+{
+    const int sign = at(chart.rashi, body);
+    if (body > core::kSaturn) {
+        return nodeRelationship(body, sign, settings.nodeDignityScheme);
+    }
+    const int lord = signLord(sign);
+    return chart.computed(lord) ? at(at(chart.compound, body), lord) : kNeutral;
 }
 
 std::vector<Lajjitadi> lajjitadiOf(const core::Chart& chart, int body, const Company& company,

@@ -27,6 +27,12 @@ struct Company
 [[nodiscard]] Company companyOf(const core::Chart& chart, const NaturalBenefics& benefic, int body,
                                 const core::Settings& settings);
 
+/// Relationship code of a body 1 to 9 towards the lord of its sign, also where it is debilitated
+/// there. 3 is the body itself; the nodes have theirs by the sign, with 4 and -3 for exaltation and
+/// debilitation.
+[[nodiscard]] int relationshipToLord(const core::Chart& chart, int body,
+                                     const core::Settings& settings);
+
 /// The states that hold, in the order of the enumeration. Needs the compound relationships.
 /// Friendship is that which the body feels towards the other; the nodes are malefics, but nobody's
 /// natural enemies, and have no natural friends or enemies themselves.

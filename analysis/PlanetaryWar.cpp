@@ -38,12 +38,17 @@ War warBetween(const core::Chart& chart, const StrengthInputs& inputs,
     const Strength& one = at(strengths, first);
     const Strength& other = at(strengths, second);
     if (one && other) {
-        war.bala = std::fabs(*one - *other) / std::fabs(at(kDiscs, first) - at(kDiscs, second));
+        war.bala = std::fabs(*one - *other) / std::fabs(discDiameter(first) - discDiameter(second));
     }
     return war;
 }
 
 } // namespace
+
+double discDiameter(int planet)
+{
+    return at(kDiscs, planet);
+}
 
 std::vector<War> planetaryWars(const core::Chart& chart, const StrengthInputs& inputs,
                                const PlanetArray<Strength>& strengths)

@@ -19,6 +19,9 @@ struct War
     Strength bala; ///< what the winner gains and the loser loses
 };
 
+/// Apparent diameter of the disc of planet 3 to 7 in seconds of arc, the same at every distance.
+[[nodiscard]] double discDiameter(int planet);
+
 /// The wars of a chart, each pair by itself. The planet further north wins; on equal latitudes the
 /// one of smaller longitude. `strengths` are the sums of place, direction and time strength without
 /// ayana; where one is empty the war has no bala.

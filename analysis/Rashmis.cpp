@@ -22,6 +22,16 @@ constexpr std::array<double, 9> kDignityFactors = {1.0,       2.0 / 5.0, 1.0 / 2
 
 } // namespace
 
+double mostRays(int planet)
+{
+    return at(kMostRays, planet);
+}
+
+double rayFactor(int display)
+{
+    return at(kDignityFactors, display);
+}
+
 Rashmis computeRashmis(const core::Chart& chart, const core::Settings& settings)
 {
     Rashmis rashmis;
@@ -30,7 +40,7 @@ Rashmis computeRashmis(const core::Chart& chart, const core::Settings& settings)
         Strength& rays = at(rashmis.planets, planet);
         if (const std::optional<int> display = rashiDisplay(chart, planet, settings)) {
             const double arc = arcBetween(at(chart.longitude, planet), deepExaltation(planet));
-            rays = at(kMostRays, planet) * (180.0 - arc) / 180.0 * at(kDignityFactors, *display);
+            rays = mostRays(planet) * (180.0 - arc) / 180.0 * rayFactor(*display);
         }
         rashmis.total = sumOf({rashmis.total, rays});
     }

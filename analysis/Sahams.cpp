@@ -19,15 +19,7 @@ using core::at;
 using core::norm12;
 using core::Normalize360;
 
-enum class Kind
-{
-    Body,       // number: point index
-    House,      // number: house; its longitude is the ascendant's degree in the house's sign
-    HouseLord,  // number: house, counted by sign
-    Dispositor, // number: point index; the lord of the sign it stands in
-    Saham,      // number: place in the list
-    Degree,     // number: the longitude itself
-};
+using Kind = SahamTermKind;
 
 struct Term
 {
@@ -185,15 +177,14 @@ const Saham& rowOf(const core::Chart& chart, int saham)
     return ofMars ? kSamarthaOfMars : at(kSahams, saham);
 }
 
+SahamTerm termOf(const core::Chart& chart, const Term& term, bool night)
+{
+    return {term.kind, term.number, longitudeOf(chart, term, night)};
+}
+
 double valueOf(const core::Chart& chart, int saham, bool night)
 {
-    const Saham& row = rowOf(chart, saham);
-    const Formula& formula = night ? row.night : row.day;
-    const double a = longitudeOf(chart, formula.a, night);
-    const double b = longitudeOf(chart, formula.b, night);
-    const double c = longitudeOf(chart, formula.c, night);
-    const bool onTheWay = Normalize360(c - b) <= Normalize360(a - b);
-    return Normalize360(a - b + c + (onTheWay ? 0.0 : 30.0));
+    return sahamReckoning(chart, saham, night).longitude;
 }
 
 } // namespace
@@ -201,6 +192,22 @@ double valueOf(const core::Chart& chart, int saham, bool night)
 const std::array<std::wstring_view, kSahamCount>& sahamNames()
 {
     return kNames;
+}
+
+SahamReckoning sahamReckoning(const core::Chart& chart, int saham, bool night)
+{
+    const Saham& row = rowOf(chart, saham);
+    const Formula& formula = night ? row.night : row.day;
+    SahamReckoning reckoning;
+    reckoning.a = termOf(chart, formula.a, night);
+    reckoning.b = termOf(chart, formula.b, night);
+    reckoning.c = termOf(chart, formula.c, night);
+    const double a = reckoning.a.longitude;
+    const double b = reckoning.b.longitude;
+    const double c = reckoning.c.longitude;
+    reckoning.onTheWay = Normalize360(c - b) <= Normalize360(a - b);
+    reckoning.longitude = Normalize360(a - b + c + (reckoning.onTheWay ? 0.0 : 30.0));
+    return reckoning;
 }
 
 std::optional<double> sahamLongitude(const core::Chart& chart, int saham, bool night)

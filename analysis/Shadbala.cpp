@@ -19,20 +19,6 @@ constexpr RequiredParts kSunParts = {165, 35, 50, 112, 30};
 constexpr RequiredParts kMoonParts = {133, 50, 30, 100, 40};
 constexpr RequiredParts kMarsParts = {96, 30, 40, 67, 20};
 
-std::optional<double> weakPoint(const core::Chart& chart, const StrengthInputs& inputs, int planet)
-{
-    const bool needsMidheaven = planet == core::kSun || planet == core::kMars ||
-                                planet == core::kMoon || planet == core::kVenus;
-    if (needsMidheaven) {
-        const bool nadir = planet == core::kSun || planet == core::kMars;
-        return sumOf({inputs.midheaven, nadir ? 180.0 : 0.0});
-    }
-    if (!chart.computed(core::kAscendant)) {
-        return std::nullopt;
-    }
-    return chart.longitude[core::kAscendant] + (planet == core::kSaturn ? 0.0 : 180.0);
-}
-
 std::optional<bool> reaches(const Strength& part, double required)
 {
     return part ? std::optional(*part >= required) : std::nullopt;
@@ -97,6 +83,11 @@ void storeTotal(Shadbala& bala)
 
 } // namespace
 
+Strength Shadbala::beforeWar() const
+{
+    return sumOf({sthana.total(), dig, kala.beforeWar()});
+}
+
 ShadbalaTable computeShadbala(const core::Chart& chart, const StrengthInputs& inputs)
 {
     ShadbalaTable table;
@@ -105,7 +96,7 @@ ShadbalaTable computeShadbala(const core::Chart& chart, const StrengthInputs& in
     for (int planet = core::kSun; planet <= core::kSaturn; ++planet) {
         Shadbala& bala = at(table.planets, planet);
         bala = partsOf(chart, inputs, benefic, planet);
-        at(beforeWar, planet) = sumOf({bala.sthana.total(), bala.dig, bala.kala.beforeWar()});
+        at(beforeWar, planet) = bala.beforeWar();
     }
     table.wars = planetaryWars(chart, inputs, beforeWar);
     for (int planet = core::kSun; planet <= core::kSaturn; ++planet) {
@@ -119,9 +110,24 @@ ShadbalaTable computeShadbala(const core::Chart& chart, const StrengthInputs& in
     return table;
 }
 
+std::optional<double> directionlessPoint(const core::Chart& chart, const StrengthInputs& inputs,
+                                         int planet)
+{
+    const bool needsMidheaven = planet == core::kSun || planet == core::kMars ||
+                                planet == core::kMoon || planet == core::kVenus;
+    if (needsMidheaven) {
+        const bool nadir = planet == core::kSun || planet == core::kMars;
+        return sumOf({inputs.midheaven, nadir ? 180.0 : 0.0});
+    }
+    if (!chart.computed(core::kAscendant)) {
+        return std::nullopt;
+    }
+    return chart.longitude[core::kAscendant] + (planet == core::kSaturn ? 0.0 : 180.0);
+}
+
 Strength digBala(const core::Chart& chart, const StrengthInputs& inputs, int planet)
 {
-    const std::optional<double> weak = weakPoint(chart, inputs, planet);
+    const std::optional<double> weak = directionlessPoint(chart, inputs, planet);
     if (!weak || !chart.computed(planet)) {
         return std::nullopt;
     }

@@ -48,6 +48,9 @@ struct Shadbala
     Strength ratio;          ///< total / required, a number without unit
     Phala phala;             ///< ishta and kashta
     PartsTest reachesRequired;
+
+    /// What a planetary war compares: place, direction and time without ayana and war itself.
+    [[nodiscard]] Strength beforeWar() const;
 };
 
 struct ShadbalaTable
@@ -64,6 +67,11 @@ struct ShadbalaTable
 /// Directional strength of planet 1 to 7: a third of the distance from its weak point, which is the
 /// nadir, the midheaven, the descendant or the ascendant.
 [[nodiscard]] Strength digBala(const core::Chart& chart, const StrengthInputs& inputs, int planet);
+
+/// The longitude in degrees, not reduced, at which planet 1 to 7 has no directional strength; empty
+/// without midheaven or ascendant.
+[[nodiscard]] std::optional<double> directionlessPoint(const core::Chart& chart,
+                                                       const StrengthInputs& inputs, int planet);
 
 /// Natural strength: the Sun 60, then in steps of a seventh down to Saturn.
 [[nodiscard]] double naisargikaBala(int planet);

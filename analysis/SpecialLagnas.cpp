@@ -27,11 +27,6 @@ bool isOdd(int sign)
     return sign % 2 != 0;
 }
 
-int kalaOfNinthFrom(int sign)
-{
-    return at(kKalas, signLord(norm12(sign + 8)));
-}
-
 // Odd signs count forward from Aries, even ones backward from Pisces.
 int countOf(int sign)
 {
@@ -61,6 +56,11 @@ void computeFromSunrise(core::Chart& chart, astro::EphemerisContext& context)
 double lagnaFromSunrise(double sunAtSunrise, double hoursSinceSunrise, double rate)
 {
     return Normalize360(sunAtSunrise + hoursSinceSunrise * rate);
+}
+
+int kalaOfNinthFrom(int sign)
+{
+    return at(kKalas, signLord(norm12(sign + 8)));
 }
 
 int induSign(int ascendantSign, int moonSign)

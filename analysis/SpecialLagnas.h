@@ -17,6 +17,9 @@ inline constexpr double kGhatiLagnaRate = 75.0;
 /// rates.
 [[nodiscard]] double lagnaFromSunrise(double sunAtSunrise, double hoursSinceSunrise, double rate);
 
+/// The kala of the lord of the ninth sign from a sign 1 to 12, which the Indu lagna counts.
+[[nodiscard]] int kalaOfNinthFrom(int sign);
+
 /// The sign, 1 to 12, of the Indu lagna for the signs of the ascendant and the Moon.
 [[nodiscard]] int induSign(int ascendantSign, int moonSign);
 

@@ -4,6 +4,7 @@
 #include "core/Angles.h"
 
 #include <array>
+#include <cstddef>
 
 namespace kestrav::analysis
 {
@@ -71,8 +72,8 @@ Strength scoreInSign(const core::Chart& chart, int varga, int planet)
 Strength saptavargaja(const core::Chart& chart, int planet)
 {
     Strength sum = 0.0;
-    for (const int varga : kSevenVargas) {
-        sum = sumOf({sum, scoreInSign(chart, varga, planet)});
+    for (const SaptavargajaPart& part : saptavargajaParts(chart, planet)) {
+        sum = sumOf({sum, part.score});
     }
     return sum;
 }
@@ -114,6 +115,16 @@ double drekkana(const core::Chart& chart, int planet)
 Strength SthanaBala::total() const
 {
     return sumOf({uccha, saptavargaja, ojayugma, kendradi, drekkana});
+}
+
+std::array<SaptavargajaPart, 7> saptavargajaParts(const core::Chart& chart, int planet)
+{
+    std::array<SaptavargajaPart, 7> parts;
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        const int varga = kSevenVargas[i];
+        parts[i] = {varga, signInVarga(chart, varga, planet), scoreInSign(chart, varga, planet)};
+    }
+    return parts;
 }
 
 SthanaBala sthanaBala(const core::Chart& chart, int planet)

@@ -4,6 +4,8 @@
 #include "analysis/StrengthParts.h"
 #include "core/Chart.h"
 
+#include <array>
+
 namespace kestrav::analysis
 {
 
@@ -17,6 +19,19 @@ struct SthanaBala
 
     [[nodiscard]] Strength total() const;
 };
+
+/// What one divisional chart adds to saptavargaja bala.
+struct SaptavargajaPart
+{
+    int varga = 0;
+    int sign = 0; ///< 0 where the planet has no placement
+    Strength score;
+};
+
+/// The seven parts of a planet 1 to 7 that has a position. The Hora is that of rule 0, whatever the
+/// settings say.
+[[nodiscard]] std::array<SaptavargajaPart, 7> saptavargajaParts(const core::Chart& chart,
+                                                                int planet);
 
 /// Place strength of planet 1 to 7. Needs its vargas and the compound relationships; kendradi needs
 /// the ascendant.

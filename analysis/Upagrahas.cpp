@@ -26,19 +26,9 @@ constexpr double kUpaketuFromIndrachapa = 16.0 + 40.0 / 60.0;
 constexpr std::array<int, 7> kMandiByDay = {26, 22, 18, 14, 10, 6, 2};
 constexpr std::array<int, 7> kMandiByNight = {10, 6, 2, 26, 22, 18, 14};
 
-struct Ruled
-{
-    int point;
-    int planet;
-};
-
-constexpr std::array<Ruled, 5> kPartBased = {{
-    {core::kKaala, core::kSun},
-    {core::kMrityu, core::kMars},
-    {core::kArdhaprahara, core::kMercury},
-    {core::kYamaghantaka, core::kJupiter},
-    {core::kGulika, core::kSaturn},
-}};
+// Of Kaala, Mrityu, Ardhaprahara, Yamaghantaka and Gulika.
+constexpr std::array<int, 5> kPartRulers = {core::kSun, core::kMars, core::kMercury, core::kJupiter,
+                                            core::kSaturn};
 
 } // namespace
 
@@ -65,6 +55,24 @@ int mandiGhati(int weekday, bool night)
     return at(night ? kMandiByNight : kMandiByDay, weekday - 1);
 }
 
+int upagrahaPlanet(int point)
+{
+    return at(kPartRulers, point - core::kKaala);
+}
+
+std::optional<double> upagrahaHour(const core::Chart& chart, int point, bool atMiddle)
+{
+    const std::optional<HalfDay> half = runningHalf(chart);
+    if (!half) {
+        return std::nullopt;
+    }
+    if (point == core::kMandi) {
+        return half->partStart(mandiGhati(chart.weekday, half->night), kGhatisOfHalf);
+    }
+    const int part = kalaVelaPart(chart.weekday, half->night, upagrahaPlanet(point));
+    return half->partStart(part + (atMiddle ? 0.5 : 0.0), kEighths);
+}
+
 void computeUpagrahas(core::Chart& chart, bool atMiddle)
 {
     if (!chart.computed(core::kSun)) {
@@ -75,19 +83,16 @@ void computeUpagrahas(core::Chart& chart, bool atMiddle)
     for (std::size_t i = 0; i < sunBased.size(); ++i) {
         storePoint(chart, core::kDhuma + int(i), sunBased[i]);
     }
-    const std::optional<HalfDay> half = runningHalf(chart);
-    if (!half) {
-        return;
+    for (const int point : {core::kKaala, core::kMrityu, core::kArdhaprahara, core::kYamaghantaka,
+                            core::kGulika, core::kMandi}) {
+        if (const std::optional<double> hour = upagrahaHour(chart, point, atMiddle)) {
+            storePoint(chart, point, ascendantAt(chart, *hour));
+        }
     }
-    for (const Ruled& ruled : kPartBased) {
-        const int part = kalaVelaPart(chart.weekday, half->night, ruled.planet);
-        const double hour = half->partStart(part + (atMiddle ? 0.5 : 0.0), kEighths);
-        storePoint(chart, ruled.point, ascendantAt(chart, hour));
+    if (runningHalf(chart)) {
+        const double sinceSunrise = chart.time.localTime - chart.vedicDay->sunrise;
+        storePoint(chart, core::kPranapada, pranapada(sun, sinceSunrise * kGhatisPerHour));
     }
-    const double sinceSunrise = chart.time.localTime - chart.vedicDay->sunrise;
-    storePoint(chart, core::kPranapada, pranapada(sun, sinceSunrise * kGhatisPerHour));
-    const int ghati = mandiGhati(chart.weekday, half->night);
-    storePoint(chart, core::kMandi, ascendantAt(chart, half->partStart(ghati, kGhatisOfHalf)));
 }
 
 } // namespace kestrav::analysis

@@ -5,6 +5,7 @@
 #include "core/Chart.h"
 
 #include <array>
+#include <optional>
 
 namespace kestrav::analysis
 {
@@ -17,6 +18,14 @@ namespace kestrav::analysis
 
 /// The ghati, of the 30 of a half-day, after which Mandi rises on a weekday (1 = Sunday).
 [[nodiscard]] int mandiGhati(int weekday, bool night);
+
+/// The planet whose part of the day Kaala to Gulika (points 15 to 19) stand for.
+[[nodiscard]] int upagrahaPlanet(int point);
+
+/// The local clock hour at which the ascendant gives the place of points 15 to 19 and of Mandi;
+/// nothing where no day runs.
+[[nodiscard]] std::optional<double> upagrahaHour(const core::Chart& chart, int point,
+                                                 bool atMiddle);
 
 /// Fills points 10 to 21. Kaala to Gulika are the ascendant at the start of their planet's eighth
 /// of the day or night, or with `atMiddle` at its middle. Points 15 to 21 stay not computed in a

@@ -23,16 +23,6 @@ constexpr double kReversedStart = 29.99999;
 // Points 60 to 62 never have a placement.
 constexpr int kDividedPoints = 60;
 
-// One part of a divided sign and where in it a point stands.
-struct Part
-{
-    int index = 0;         // of the part
-    double fraction = 0.0; // of the part that lies behind the point
-    double position = 0.0; // the fraction as degrees of a sign
-    int strengthStep = 0;
-    bool nearBoundary = false;
-};
-
 // What the rules read: the point's place in the zodiac.
 struct Place
 {
@@ -43,11 +33,8 @@ struct Place
     int navamshaSign;
 };
 
-struct Divided
-{
-    int sign;
-    Part part;
-};
+using Part = VargaPart;
+using Divided = VargaDivided; // whose sign is not yet brought into 1 to 12
 
 int stepInSign(double fraction, bool even)
 {
@@ -75,8 +62,12 @@ Part partOf(double value, int division, bool evenSign, const core::Settings& set
     double whole = 0.0;
     const double fraction = std::modf(x, &whole);
     const double minutes = std::floor(distanceToBoundary(fraction) * 1800.0 / division);
-    return {int(whole), fraction, fraction * 30.0,
+    return {int(whole),
+            fraction,
+            fraction * 30.0,
             division == 1 ? stepInSign(fraction, evenSign) : stepInPart(fraction),
+            30.0 / division,
+            minutes,
             minutes < settings.sandhiMinutes};
 }
 
@@ -171,7 +162,7 @@ Divided trimshamsa(const Place& place, const core::Settings& settings)
     const double fraction = rest / width;
     const double minutes = std::floor(distanceToBoundary(fraction) * width * 60.0);
     return {row.signs[i],
-            {int(i), fraction, fraction * 30.0, stepInPart(fraction),
+            {int(i), fraction, fraction * 30.0, stepInPart(fraction), width, minutes,
              minutes < settings.sandhiMinutes}};
 }
 
@@ -183,7 +174,7 @@ Divided navaDwadasha(const Place& place, const core::Settings& settings)
     const double fraction = std::modf(x, &whole);
     const double minutes = std::floor(distanceToBoundary(fraction) * 1800.0 / 108.0);
     return {int(whole) % 12 + place.navamshaSign,
-            {int(whole), fraction, fraction * 30.0, stepInPart(fraction),
+            {int(whole), fraction, fraction * 30.0, stepInPart(fraction), 30.0 / 108.0, minutes,
              minutes < settings.sandhiMinutes}};
 }
 
@@ -238,14 +229,22 @@ Divided divide(const Place& place, int varga, const core::Settings& settings)
 
 } // namespace
 
-bool computeVarga(core::Chart& chart, int varga, int point, const core::Settings& settings)
+VargaDivided divideInVarga(const core::Chart& chart, int varga, int point,
+                           const core::Settings& settings)
 {
     const int rashi = at(chart.rashi, point);
     const Place place = {rashi, rashi % 2 == 0, at(chart.degreeInSign, point),
                          at(chart.longitude, point), at(chart.navamshaSign, point)};
-    const Divided divided = divide(place, varga, settings);
+    Divided divided = divide(place, varga, settings);
+    divided.sign = norm12(divided.sign);
+    return divided;
+}
+
+bool computeVarga(core::Chart& chart, int varga, int point, const core::Settings& settings)
+{
+    const VargaDivided divided = divideInVarga(chart, varga, point, settings);
     core::VargaPlacement& placement = at(at(chart.vargas, varga), point);
-    placement.sign = norm12(divided.sign);
+    placement.sign = divided.sign;
     placement.strengthStep = divided.part.strengthStep;
     placement.position = divided.part.position;
     at(at(chart.nearBoundary, varga), point) = divided.part.nearBoundary;

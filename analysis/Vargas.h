@@ -7,6 +7,30 @@
 namespace kestrav::analysis
 {
 
+/// One part of a divided sign and where in it a point stands.
+struct VargaPart
+{
+    int index = 0;         ///< from 0; of the parts of the sign, or of the zodiac from Aries on
+    double fraction = 0.0; ///< of the part that lies behind the point
+    double position = 0.0; ///< the fraction as degrees of a sign; counted backwards by some rules
+    int strengthStep = 0;  ///< 0 to 6
+    double width = 0.0;    ///< degrees of the undivided sign
+    double minutes = 0.0;  ///< whole arc minutes to the nearer boundary
+    bool nearBoundary = false;
+};
+
+/// The sign and the part that the division of a point gives.
+struct VargaDivided
+{
+    int sign = 0; ///< 1 to 12
+    VargaPart part;
+};
+
+/// The division of a computed point in a varga by the rule of that varga, from which its placement
+/// is made. Arudha points are divided like every other one.
+[[nodiscard]] VargaDivided divideInVarga(const core::Chart& chart, int varga, int point,
+                                         const core::Settings& settings);
+
 /// Fills the placement of one point in one varga and its near-boundary flag, which is returned. The
 /// point must be computed. The varga signs of arudha points are those of the division here;
 /// computeAllVargas replaces them where the settings ask for it.
