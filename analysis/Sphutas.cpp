@@ -2,6 +2,7 @@
 
 #include "core/Angles.h"
 
+#include <algorithm>
 #include <cstddef>
 
 namespace kestrav::analysis
@@ -12,16 +13,10 @@ namespace
 
 using core::at;
 
-struct Addend
-{
-    int point;
-    int factor; // 0 in an unused place
-};
-
 struct Sum
 {
     std::wstring_view name;
-    std::array<Addend, 5> addends;
+    std::array<SphutaAddend, 5> addends; // the factor is 0 in an unused place
 };
 
 // clang-format off
@@ -40,13 +35,10 @@ constexpr std::array<Sum, 10> kSums = {{
 }};
 // clang-format on
 
-std::optional<double> longitudeOf(const core::Chart& chart, const Sum& sum)
+std::optional<double> longitudeOf(const core::Chart& chart, int sphuta)
 {
     double total = 0.0;
-    for (const Addend& addend : sum.addends) {
-        if (addend.factor == 0) {
-            break;
-        }
+    for (const SphutaAddend& addend : sphutaAddends(sphuta)) {
         if (!chart.computed(addend.point)) {
             return std::nullopt;
         }
@@ -57,11 +49,19 @@ std::optional<double> longitudeOf(const core::Chart& chart, const Sum& sum)
 
 } // namespace
 
+std::span<const SphutaAddend> sphutaAddends(int sphuta)
+{
+    const auto& addends = at(kSums, sphuta).addends;
+    const auto end = std::find_if(addends.begin(), addends.end(),
+                                  [](const SphutaAddend& addend) { return addend.factor == 0; });
+    return {addends.begin(), end};
+}
+
 std::array<Sphuta, 10> sphutas(const core::Chart& chart)
 {
     std::array<Sphuta, 10> result{};
     for (std::size_t i = 0; i < kSums.size(); ++i) {
-        result[i] = {kSums[i].name, longitudeOf(chart, kSums[i])};
+        result[i] = {kSums[i].name, longitudeOf(chart, int(i))};
     }
     return result;
 }
