@@ -3,13 +3,12 @@
 #include "app/cli/TextValues.h"
 #include "astro/Ayanamsa.h"
 #include "astro/SiderealTime.h"
-#include "core/FileText.h"
 #include "core/numeric.h"
 
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
-#include <cmath>
+#include <initializer_list>
 #include <optional>
 
 namespace kestrav::cli
@@ -21,19 +20,14 @@ namespace
 using core::at;
 using core::kDegreesPerRadian;
 
-Json number(double value)
+// An object whose keys are all null.
+Json nulls(std::initializer_list<const char*> keys)
 {
-    return std::isfinite(value) ? Json(value) : Json();
-}
-
-Json number(const std::optional<double>& value)
-{
-    return value ? number(*value) : Json();
-}
-
-Json textOrNull(const std::wstring& text)
-{
-    return text.empty() ? Json() : Json(core::toUtf8(text));
+    Json object;
+    for (const char* const key : keys) {
+        object[key] = nullptr;
+    }
+    return object;
 }
 
 bool isBody(int point)
@@ -41,11 +35,25 @@ bool isBody(int point)
     return std::find(core::kBodies.begin(), core::kBodies.end(), point) != core::kBodies.end();
 }
 
+void addBodyData(Json& object, const core::Chart& chart, int point)
+{
+    object["retrograde"] = at(chart.retrograde, point);
+    object["combust"] = at(chart.combust, point);
+    if (!chart.hasMoment) {
+        return;
+    }
+    object["speed"] = numberJson(at(chart.speed, point));
+    object["latitude"] = numberJson(at(chart.latitude, point) * kDegreesPerRadian);
+    object["declination"] =
+        numberJson(at(chart.declination, astro::declinationSlot(point)) * kDegreesPerRadian);
+    object["motionCode"] = int(at(chart.motion, point));
+}
+
 Json pointJson(const core::Chart& chart, int point)
 {
     Json object;
     object["index"] = point;
-    object["name"] = core::toUtf8(pointLabel(point));
+    object["name"] = textJson(pointLabel(point));
     for (const char* const key :
          {"longitude", "speed", "latitude", "declination", "rashi", "degreeInSign", "navamshaSign",
           "nakshatraPosition", "nakshatra", "pada", "retrograde", "motionCode", "combust"}) {
@@ -55,20 +63,17 @@ Json pointJson(const core::Chart& chart, int point)
         return object;
     }
     const double position = at(chart.nakshatraPosition, point);
-    object["longitude"] = number(at(chart.longitude, point));
+    object["longitude"] = numberJson(at(chart.longitude, point));
     object["rashi"] = at(chart.rashi, point);
-    object["degreeInSign"] = number(at(chart.degreeInSign, point));
+    object["degreeInSign"] = numberJson(at(chart.degreeInSign, point));
     object["navamshaSign"] = at(chart.navamshaSign, point);
-    object["nakshatraPosition"] = number(position);
+    object["nakshatraPosition"] = numberJson(position);
     object["nakshatra"] = nakshatraOf(position);
     object["pada"] = padaOf(position);
-    object["motionCode"] = int(at(chart.motion, point));
     if (isBody(point)) {
-        object["speed"] = number(at(chart.speed, point));
-        object["latitude"] = number(at(chart.latitude, point) * kDegreesPerRadian);
-        object["declination"] =
-            number(at(chart.declination, astro::declinationSlot(point)) * kDegreesPerRadian);
-        object["retrograde"] = at(chart.retrograde, point);
+        addBodyData(object, chart, point);
+    } else {
+        object["motionCode"] = int(core::Motion::None);
     }
     return object;
 }
@@ -77,40 +82,30 @@ Json housesArray(const core::HouseArray& longitudes)
 {
     Json list = Json::array();
     for (const double longitude : longitudes) {
-        list.push_back(longitude >= 0.0 ? number(longitude) : Json());
+        list.push_back(longitude >= 0.0 ? numberJson(longitude) : Json());
     }
     return list;
 }
 
 } // namespace
 
-Json commandObject(std::string_view command)
-{
-    Json object;
-    object["program"]["name"] = "Kestrav";
-    object["program"]["version"] = KESTRAV_VERSION;
-    object["command"] = std::string(command);
-    return object;
-}
-
-std::string jsonText(const Json& object)
-{
-    return object.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
-}
-
 Json inputJson(const ComputedChart& computed)
 {
     const core::Chart& chart = computed.chart;
-    Json object;
+    Json object = nulls({"name", "year", "month", "day", "localTime", "zone", "daylightSaving",
+                         "longitude", "latitude", "place"});
     object["name"] = textOrNull(chart.name);
+    if (!chart.hasMoment) {
+        return object;
+    }
     object["year"] = chart.time.year;
     object["month"] = chart.time.month;
     object["day"] = chart.time.day;
-    object["localTime"] = number(chart.time.localTime);
-    object["zone"] = number(chart.zone);
+    object["localTime"] = numberJson(chart.time.localTime);
+    object["zone"] = numberJson(chart.zone);
     object["daylightSaving"] = chart.daylightSaving;
-    object["longitude"] = computed.hasPlace ? number(chart.geoLongitude) : Json();
-    object["latitude"] = computed.hasPlace ? number(chart.geoLatitude) : Json();
+    object["longitude"] = computed.hasPlace ? numberJson(chart.geoLongitude) : Json();
+    object["latitude"] = computed.hasPlace ? numberJson(chart.geoLatitude) : Json();
     object["place"] = textOrNull(chart.place);
     return object;
 }
@@ -118,25 +113,32 @@ Json inputJson(const ComputedChart& computed)
 Json timeJson(const ComputedChart& computed)
 {
     const core::Chart& chart = computed.chart;
+    if (!chart.hasMoment) {
+        return nulls({"julianDay0h", "dayCount", "utHours", "deltaTDays", "T", "decimalYear",
+                      "weekday", "localSiderealTime"});
+    }
     Json object;
-    object["julianDay0h"] = number(core::DateToJulianDay(chart.time));
-    object["dayCount"] = number(chart.time.dayCount);
-    object["utHours"] = number(chart.time.utHours);
-    object["deltaTDays"] = number(chart.time.deltaTDays);
-    object["T"] = number(chart.T);
-    object["decimalYear"] = number(astro::DecimalYear(chart.time));
+    object["julianDay0h"] = numberJson(core::DateToJulianDay(chart.time));
+    object["dayCount"] = numberJson(chart.time.dayCount);
+    object["utHours"] = numberJson(chart.time.utHours);
+    object["deltaTDays"] = numberJson(chart.time.deltaTDays);
+    object["T"] = numberJson(chart.T);
+    object["decimalYear"] = numberJson(astro::DecimalYear(chart.time));
     object["weekday"] = chart.weekday;
-    object["localSiderealTime"] = computed.hasPlace ? number(chart.localSiderealTime) : Json();
+    object["localSiderealTime"] = computed.hasPlace ? numberJson(chart.localSiderealTime) : Json();
     return object;
 }
 
 Json ayanamsaJson(const ComputedChart& computed)
 {
+    if (!computed.chart.hasMoment) {
+        return nulls({"row", "name", "degrees", "nutation"});
+    }
     Json object;
     object["row"] = computed.settings.ayanamsaRow;
     object["name"] = std::string(astro::selectedRow(computed.settings).nameText());
-    object["degrees"] = number(computed.chart.ayanamsa);
-    object["nutation"] = number(computed.chart.nutation);
+    object["degrees"] = numberJson(computed.chart.ayanamsa);
+    object["nutation"] = numberJson(computed.chart.nutation);
     return object;
 }
 
@@ -150,10 +152,11 @@ Json housesJson(const ComputedChart& computed)
             chart.computed(point) ? at(chart.longitude, point) : core::kNotComputed;
     }
     Json object;
-    object["system"] = chart.houseSystem;
-    object["obliquity"] = number(chart.obliquity() * kDegreesPerRadian);
-    object["ascendant"] = number(chart.longitude[core::kAscendant]);
-    object["midheaven"] = number(chart.midheaven);
+    object["system"] = chart.houseSystem >= 0 ? Json(chart.houseSystem) : Json();
+    object["obliquity"] =
+        chart.hasMoment ? numberJson(chart.obliquity() * kDegreesPerRadian) : Json();
+    object["ascendant"] = numberJson(chart.longitude[core::kAscendant]);
+    object["midheaven"] = chart.hasMoment ? numberJson(chart.midheaven) : Json();
     object["cusps"] = housesArray(cusps);
     object["sandhis"] = chart.hasSandhis ? housesArray(chart.sandhis) : Json();
     return object;
@@ -163,12 +166,12 @@ Json sunJson(const ComputedChart& computed)
 {
     const std::optional<core::VedicDay>& day = computed.day;
     Json running;
-    running["sunrise"] = day ? number(day->sunrise) : Json();
-    running["sunset"] = day ? number(day->sunset) : Json();
-    running["nextSunrise"] = day ? number(day->nextSunrise) : Json();
+    running["sunrise"] = day ? numberJson(day->sunrise) : Json();
+    running["sunset"] = day ? numberJson(day->sunset) : Json();
+    running["nextSunrise"] = day ? numberJson(day->nextSunrise) : Json();
     Json object;
-    object["sunrise"] = number(computed.chart.sunrise);
-    object["sunset"] = number(computed.chart.sunset);
+    object["sunrise"] = numberJson(computed.chart.sunrise);
+    object["sunset"] = numberJson(computed.chart.sunset);
     object["vedicDay"] = std::move(running);
     return object;
 }

@@ -1,24 +1,12 @@
 // The pieces of the JSON objects that describe a chart. Angles are in degrees, clock times in
-// hours. What does not exist or is not computed is null; no key is ever left out.
+// hours. What a chart of bare positions does not have is null inside its piece.
 #pragma once
 
 #include "app/cli/ComputedChart.h"
-
-#include <nlohmann/json_fwd.hpp>
-
-#include <string>
-#include <string_view>
+#include "app/cli/JsonValues.h"
 
 namespace kestrav::cli
 {
-
-using Json = nlohmann::ordered_json;
-
-/// The beginning of every object: program and command.
-[[nodiscard]] Json commandObject(std::string_view command);
-
-/// The object as text that ends with a line end.
-[[nodiscard]] std::string jsonText(const Json& object);
 
 [[nodiscard]] Json inputJson(const ComputedChart& computed);
 [[nodiscard]] Json timeJson(const ComputedChart& computed);

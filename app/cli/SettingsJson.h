@@ -1,7 +1,7 @@
 // Settings and the ayanamsa table as JSON.
 #pragma once
 
-#include "app/cli/ChartJson.h"
+#include "app/cli/JsonValues.h"
 #include "core/Settings.h"
 
 #include <span>

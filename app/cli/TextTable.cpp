@@ -1,5 +1,7 @@
 #include "app/cli/TextTable.h"
 
+#include "app/cli/TextValues.h"
+
 #include <algorithm>
 #include <cassert>
 #include <cstddef>
@@ -41,9 +43,13 @@ std::wstring TextTable::text() const
     const auto addLine = [&](const std::vector<std::wstring>& cells) {
         std::wstring line;
         for (std::size_t i = 0; i < cells.size(); ++i) {
+            if (columns_[i].align == Align::Wrapped && !cells[i].empty()) {
+                text += wrapped(cells[i], line);
+                return;
+            }
             const std::wstring padding(widths[i] - cells[i].size(), L' ');
             line += columns_[i].align == Align::Right ? padding + cells[i] : cells[i] + padding;
-            line.append(kGap, L' ');
+            line.append(gap_, L' ');
         }
         endLine(line);
         text += line;

@@ -1,6 +1,7 @@
 // Aligned columns of text.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <utility>
 #include <vector>
@@ -17,6 +18,7 @@ public:
     {
         Left,
         Right,
+        Wrapped, ///< broken between words; for the last column only
     };
 
     struct Column
@@ -25,7 +27,9 @@ public:
         Align align = Align::Left;
     };
 
-    explicit TextTable(std::vector<Column> columns) : columns_(std::move(columns))
+    /// `gap` is the count of blanks between two columns.
+    explicit TextTable(std::vector<Column> columns, std::size_t gap = 2)
+        : columns_(std::move(columns)), gap_(gap)
     {}
 
     /// Adds a row with one cell for each column.
@@ -36,6 +40,7 @@ public:
 
 private:
     std::vector<Column> columns_;
+    std::size_t gap_;
     std::vector<std::vector<std::wstring>> rows_;
 };
 

@@ -4,6 +4,7 @@
 #include "core/PointNames.h"
 #include "core/TextForms.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -16,6 +17,7 @@ namespace
 {
 
 constexpr int kSecondsPerDay = 86400;
+constexpr std::size_t kTextWidth = 100;
 
 std::wstring padded(int value, std::size_t width)
 {
@@ -34,6 +36,31 @@ std::wstring fixedNumber(double value, int decimals)
         return std::wstring(core::kNoName);
     }
     return {buffer.data(), end};
+}
+
+std::wstring numberOrNone(const std::optional<double>& value, int decimals)
+{
+    return value ? fixedNumber(*value, decimals) : std::wstring(core::kNoName);
+}
+
+std::wstring wrapped(std::wstring_view text, std::wstring_view lead)
+{
+    std::wstring lines(lead);
+    std::size_t column = lead.size();
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find(L' '), text.size());
+        if (column > lead.size() && column + 1 + end > kTextWidth) {
+            lines.append(L"\n").append(lead.size(), L' ');
+            column = lead.size();
+        } else if (column > lead.size()) {
+            lines += L' ';
+            ++column;
+        }
+        lines.append(text.substr(0, end));
+        column += end;
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return lines + L"\n";
 }
 
 std::wstring clockSeconds(double hours, bool twelveHour)

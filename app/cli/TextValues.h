@@ -3,13 +3,22 @@
 
 #include "core/DateTime.h"
 
+#include <optional>
 #include <string>
+#include <string_view>
 
 namespace kestrav::cli
 {
 
 /// A number with a fixed count of decimals, the same in every locale.
 [[nodiscard]] std::wstring fixedNumber(double value, int decimals);
+
+/// The same, "--" for what is not there.
+[[nodiscard]] std::wstring numberOrNone(const std::optional<double>& value, int decimals);
+
+/// A text in lines of at most 100 characters, broken between words. The first begins with `lead`,
+/// the others with as many blanks.
+[[nodiscard]] std::wstring wrapped(std::wstring_view text, std::wstring_view lead);
 
 /// Clock time rounded to the second, with the marker and the 12-hour rules of FormatClock but no
 /// blank where it has no marker.

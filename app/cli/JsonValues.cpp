@@ -1,0 +1,46 @@
+#include "app/cli/JsonValues.h"
+
+#include "core/FileText.h"
+
+#include <nlohmann/json.hpp>
+
+#include <cmath>
+
+namespace kestrav::cli
+{
+
+Json commandObject(std::string_view command)
+{
+    Json object;
+    object["program"]["name"] = "Kestrav";
+    object["program"]["version"] = KESTRAV_VERSION;
+    object["command"] = std::string(command);
+    return object;
+}
+
+std::string jsonText(const Json& object)
+{
+    return object.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+}
+
+Json numberJson(double value)
+{
+    return std::isfinite(value) ? Json(value) : Json();
+}
+
+Json numberJson(const std::optional<double>& value)
+{
+    return value ? numberJson(*value) : Json();
+}
+
+Json textJson(std::wstring_view text)
+{
+    return core::toUtf8(text);
+}
+
+Json textOrNull(std::wstring_view text)
+{
+    return text.empty() ? Json() : textJson(text);
+}
+
+} // namespace kestrav::cli
