@@ -34,45 +34,71 @@ std::string listed(const std::vector<std::string>& words)
     return text;
 }
 
-std::vector<std::string> missingOf(const Arguments& arguments,
-                                   std::initializer_list<std::string_view> names)
+// The options of one chart, which share a prefix.
+class ChartOptions
 {
-    std::vector<std::string> missing;
-    for (const std::string_view name : names) {
-        if (!arguments.has(name)) {
-            missing.emplace_back(name);
-        }
+public:
+    ChartOptions(const Arguments& arguments, std::string_view prefix)
+        : arguments_(arguments), prefix_(prefix)
+    {}
+
+    [[nodiscard]] std::string full(std::string_view name) const
+    {
+        return prefix_ + std::string(name);
     }
-    return missing;
-}
+    [[nodiscard]] bool has(std::string_view name) const
+    {
+        return arguments_.has(full(name));
+    }
+    [[nodiscard]] std::optional<std::string> value(std::string_view name) const
+    {
+        return arguments_.value(full(name));
+    }
+
+    [[nodiscard]] std::vector<std::string>
+    missing(std::initializer_list<std::string_view> names) const
+    {
+        std::vector<std::string> missing;
+        for (const std::string_view name : names) {
+            if (!has(name)) {
+                missing.push_back(full(name));
+            }
+        }
+        return missing;
+    }
+
+private:
+    const Arguments& arguments_;
+    std::string prefix_;
+};
 
 Error missingError(const std::vector<std::string>& missing, const std::string& hint)
 {
     return {listed(missing) + (missing.size() == 1 ? " is" : " are") + " missing" + hint};
 }
 
-Result<std::wstring> readLabel(const Arguments& arguments, const std::string& option)
+Result<std::wstring> readLabel(const ChartOptions& options, std::string_view name)
 {
-    std::wstring text = core::fromFileBytes(arguments.value(option).value_or(""));
+    std::wstring text = core::fromFileBytes(options.value(name).value_or(""));
     const auto control = [](wchar_t character) {
         return character < L' ' || (character >= 0x7F && character < 0xA0);
     };
     if (std::any_of(text.begin(), text.end(), control)) {
-        return Error{option + " holds a line end or another control character"};
+        return Error{options.full(name) + " holds a line end or another control character"};
     }
     return text;
 }
 
-Result<void> readClockOptions(const Arguments& arguments, core::Chart& chart)
+Result<void> readClockOptions(const ChartOptions& options, core::Chart& chart)
 {
-    if (const std::optional<std::string> zone = arguments.value("--zone")) {
+    if (const std::optional<std::string> zone = options.value("zone")) {
         const Result<double> hours = core::parseZone(*zone);
         if (!hours) {
             return hours.error();
         }
         chart.zone = hours.value();
     }
-    if (const std::optional<std::string> text = arguments.value("--dst")) {
+    if (const std::optional<std::string> text = options.value("dst")) {
         const std::optional<int> hours = core::parseInteger(*text);
         if (!hours || *hours < 0 || *hours > kLargestSaving) {
             return Error{"saving time '" + *text + "' is not a whole number from 0 to 3"};
@@ -82,17 +108,19 @@ Result<void> readClockOptions(const Arguments& arguments, core::Chart& chart)
     return {};
 }
 
-Result<void> readTypedMoment(const Arguments& arguments, BirthData& birth)
+Result<void> readTypedMoment(const ChartOptions& options, BirthData& birth)
 {
-    const std::vector<std::string> missing = missingOf(arguments, {"--date", "--time", "--zone"});
+    const std::vector<std::string> missing = options.missing({"date", "time", "zone"});
     if (!missing.empty()) {
-        return missingError(missing, " (or give --now)");
+        const bool own = options.full("") == kOwnChart;
+        return missingError(missing, own ? " (or give --now)"
+                                         : " (or give " + options.full("positions") + ")");
     }
-    const Result<core::CivilDate> date = core::parseDate(*arguments.value("--date"));
+    const Result<core::CivilDate> date = core::parseDate(*options.value("date"));
     if (!date) {
         return date.error();
     }
-    const Result<double> time = core::parseClock(*arguments.value("--time"));
+    const Result<double> time = core::parseClock(*options.value("time"));
     if (!time) {
         return time.error();
     }
@@ -108,9 +136,9 @@ Result<void> readTypedMoment(const Arguments& arguments, BirthData& birth)
     return {};
 }
 
-Result<void> readPresentMoment(const Arguments& arguments, core::Chart& chart)
+Result<void> readPresentMoment(const ChartOptions& options, core::Chart& chart)
 {
-    if (arguments.has("--date") || arguments.has("--time")) {
+    if (options.has("date") || options.has("time")) {
         return Error{"--now cannot stand beside --date and --time"};
     }
     const Result<double> moment = presentMoment();
@@ -118,9 +146,9 @@ Result<void> readPresentMoment(const Arguments& arguments, core::Chart& chart)
         return moment.error();
     }
     const SystemZone system = systemZoneAt(moment.value());
-    if (!arguments.has("--zone")) {
+    if (!options.has("zone")) {
         chart.zone = system.zone;
-        if (!arguments.has("--dst")) {
+        if (!options.has("dst")) {
             chart.daylightSaving = system.daylightSaving;
         }
     }
@@ -135,23 +163,23 @@ Result<void> readPresentMoment(const Arguments& arguments, core::Chart& chart)
     return {};
 }
 
-Result<void> readPlace(const Arguments& arguments, PlaceNeed need, BirthData& birth)
+Result<void> readPlace(const ChartOptions& options, PlaceNeed need, BirthData& birth)
 {
-    const std::vector<std::string> missing = missingOf(arguments, {"--lon", "--lat"});
+    const std::vector<std::string> missing = options.missing({"lon", "lat"});
     if (missing.size() == 2 && need == PlaceNeed::Optional) {
         return {};
     }
     if (!missing.empty()) {
-        const std::optional<std::string> place = arguments.value("--place");
+        const std::optional<std::string> place = options.value("place");
         return missingError(missing, place ? "; there is no list of cities in this version, so '" +
                                                  *place + "' is only a label"
                                            : "");
     }
-    const Result<double> longitude = core::parseGeoLongitude(*arguments.value("--lon"));
+    const Result<double> longitude = core::parseGeoLongitude(*options.value("lon"));
     if (!longitude) {
         return longitude.error();
     }
-    const Result<double> latitude = core::parseGeoLatitude(*arguments.value("--lat"));
+    const Result<double> latitude = core::parseGeoLatitude(*options.value("lat"));
     if (!latitude) {
         return latitude.error();
     }
@@ -161,13 +189,13 @@ Result<void> readPlace(const Arguments& arguments, PlaceNeed need, BirthData& bi
     return {};
 }
 
-Result<void> readLabels(const Arguments& arguments, core::Chart& chart)
+Result<void> readLabels(const ChartOptions& options, core::Chart& chart)
 {
-    const Result<std::wstring> name = readLabel(arguments, "--name");
+    const Result<std::wstring> name = readLabel(options, "name");
     if (!name) {
         return name.error();
     }
-    const Result<std::wstring> place = readLabel(arguments, "--place");
+    const Result<std::wstring> place = readLabel(options, "place");
     if (!place) {
         return place.error();
     }
@@ -176,21 +204,40 @@ Result<void> readLabels(const Arguments& arguments, core::Chart& chart)
     return {};
 }
 
+Result<void> readPositionsOption(const ChartOptions& options, BirthData& birth)
+{
+    for (const std::string_view name :
+         {"date", "time", "zone", "dst", "lon", "lat", "place", "now"}) {
+        if (options.has(name)) {
+            return Error{options.full(name) + " cannot stand beside " + options.full("positions") +
+                         ", which has no birth data"};
+        }
+    }
+    birth.positionsFile = options.value("positions");
+    birth.chart.hasMoment = false;
+    return {};
+}
+
+Result<void> readMomentAndPlace(const ChartOptions& options, PlaceNeed need, BirthData& birth)
+{
+    Result<void> read = readClockOptions(options, birth.chart);
+    if (read) {
+        read = options.has("now") ? readPresentMoment(options, birth.chart)
+                                  : readTypedMoment(options, birth);
+    }
+    return read ? readPlace(options, need, birth) : read;
+}
+
 } // namespace
 
-Result<BirthData> readBirthData(const Arguments& arguments, PlaceNeed need)
+Result<BirthData> readBirthData(const Arguments& arguments, PlaceNeed need, std::string_view prefix)
 {
+    const ChartOptions options(arguments, prefix);
     BirthData birth;
-    Result<void> read = readClockOptions(arguments, birth.chart);
+    Result<void> read = options.has("positions") ? readPositionsOption(options, birth)
+                                                 : readMomentAndPlace(options, need, birth);
     if (read) {
-        read = arguments.has("--now") ? readPresentMoment(arguments, birth.chart)
-                                      : readTypedMoment(arguments, birth);
-    }
-    if (read) {
-        read = readPlace(arguments, need, birth);
-    }
-    if (read) {
-        read = readLabels(arguments, birth.chart);
+        read = readLabels(options, birth.chart);
     }
     if (!read) {
         return read.error();

@@ -1,37 +1,57 @@
-// The commands that compute one chart: chart, positions, houses, sun.
+// The commands that show what the engine computes: chart, positions, houses, sun.
 #pragma once
 
-#include "app/cli/Command.h"
+#include "app/cli/ComputingCommand.h"
 
 namespace kestrav::cli
 {
 
-class ChartCommand : public Command
+class ChartCommand : public ComputingCommand
 {
 public:
     ChartCommand();
-    [[nodiscard]] ExitCode run(const Arguments& arguments, Console& console) const override;
+
+protected:
+    void addJson(Json& object, const ComputedChart& computed,
+                 const Arguments& arguments) const override;
+    [[nodiscard]] std::wstring text(const ComputedChart& computed,
+                                    const Arguments& arguments) const override;
 };
 
-class PositionsCommand : public Command
+class PositionsCommand : public ComputingCommand
 {
 public:
     PositionsCommand();
-    [[nodiscard]] ExitCode run(const Arguments& arguments, Console& console) const override;
+
+protected:
+    void addJson(Json& object, const ComputedChart& computed,
+                 const Arguments& arguments) const override;
+    [[nodiscard]] std::wstring text(const ComputedChart& computed,
+                                    const Arguments& arguments) const override;
 };
 
-class HousesCommand : public Command
+class HousesCommand : public ComputingCommand
 {
 public:
     HousesCommand();
-    [[nodiscard]] ExitCode run(const Arguments& arguments, Console& console) const override;
+
+protected:
+    void addJson(Json& object, const ComputedChart& computed,
+                 const Arguments& arguments) const override;
+    [[nodiscard]] std::wstring text(const ComputedChart& computed,
+                                    const Arguments& arguments) const override;
 };
 
-class SunCommand : public Command
+class SunCommand : public ComputingCommand
 {
 public:
     SunCommand();
-    [[nodiscard]] ExitCode run(const Arguments& arguments, Console& console) const override;
+
+protected:
+    void addJson(Json& object, const ComputedChart& computed,
+                 const Arguments& arguments) const override;
+    [[nodiscard]] std::wstring text(const ComputedChart& computed,
+                                    const Arguments& arguments) const override;
 };
 
 } // namespace kestrav::cli

@@ -27,6 +27,7 @@ using core::kDegreesPerRadian;
 using Align = TextTable::Align;
 
 const std::wstring kNone(core::kNoName);
+const std::wstring kNotComputedText = L"not computed";
 
 std::wstring coordinatesText(const core::Chart& chart)
 {
@@ -87,6 +88,8 @@ void addPoint(TextTable& table, const core::Chart& chart, int point)
     };
     if (point == core::kAscendant) {
         cells.insert(cells.end(), {L"", L"", L"", L""});
+    } else if (!chart.hasMoment) {
+        cells.insert(cells.end(), {kNone, at(chart.retrograde, point) ? L"R" : L"", kNone, kNone});
     } else {
         const double declination = at(chart.declination, astro::declinationSlot(point));
         cells.push_back(fixedNumber(at(chart.speed, point), 4));
@@ -118,6 +121,10 @@ std::wstring inputText(const ComputedChart& computed)
     if (!chart.name.empty()) {
         lines.add(L"Name", chart.name);
     }
+    if (!chart.hasMoment) {
+        lines.add(L"Positions", core::fromFileBytes(computed.positionsFile));
+        return lines.text();
+    }
     if (!chart.place.empty()) {
         lines.add(L"Place", chart.place);
     }
@@ -135,6 +142,10 @@ std::wstring timeText(const ComputedChart& computed)
 {
     const core::Chart& chart = computed.chart;
     LabelledLines lines;
+    if (!chart.hasMoment) {
+        lines.add(L"Time and ayanamsa", kNotComputedText);
+        return lines.text();
+    }
     lines.add(L"Universal Time", clockSeconds(chart.time.utHours, false));
     lines.add(L"Delta T", fixedNumber(chart.time.deltaTDays * 86400.0, 2) + L" s");
     lines.add(L"Julian day", fixedNumber(chart.time.dayCount + core::kEpoch1900, 5));
@@ -145,9 +156,21 @@ std::wstring timeText(const ComputedChart& computed)
     return lines.text();
 }
 
+std::wstring notComputedNote(const ComputedChart& computed)
+{
+    if (!computed.chart.hasMoment) {
+        return L"-- not computed: only positions are known\n";
+    }
+    return computed.day ? L"" : L"-- not computed: no day from sunrise to sunrise is running\n";
+}
+
 std::wstring daylightText(const ComputedChart& computed)
 {
     LabelledLines lines;
+    if (!computed.chart.hasMoment) {
+        lines.add(L"Sunrise and sunset", kNotComputedText);
+        return lines.text();
+    }
     lines.add(L"Sunrise", clockOrNone(computed.chart.sunrise, computed.settings));
     lines.add(L"Sunset", clockOrNone(computed.chart.sunset, computed.settings));
     return lines.text() + missingEventsText(computed.chart);
@@ -183,7 +206,7 @@ std::wstring pointsText(const ComputedChart& computed)
                      {L"Motion"},
                      {L"Latitude", Align::Right},
                      {L"Declination", Align::Right}});
-    if (computed.hasPlace) {
+    if (computed.chart.computed(core::kAscendant)) {
         addPoint(table, computed.chart, core::kAscendant);
     }
     for (const int point : core::kBodies) {
@@ -215,13 +238,20 @@ std::wstring housesText(const ComputedChart& computed)
         }
         table.add(std::move(cells));
     }
+    const auto degreesOr = [&](std::wstring text) {
+        return chart.hasMoment ? std::move(text) : kNotComputedText;
+    };
+    const bool hasCusps = chart.houseSystem >= 0;
     LabelledLines lines;
-    lines.add(L"House system", houseSystemName(chart));
+    lines.add(L"House system", hasCusps ? houseSystemName(chart) : kNotComputedText);
     lines.add(L"Ascendant", core::FormatSignPosition(chart.longitude[core::kAscendant]));
-    lines.add(L"Midheaven", core::FormatSignPosition(chart.midheaven));
-    lines.add(L"Obliquity", core::FormatDMS(chart.obliquity() * kDegreesPerRadian, 1));
+    lines.add(L"Midheaven", degreesOr(core::FormatSignPosition(chart.midheaven)));
+    lines.add(L"Obliquity", degreesOr(core::FormatDMS(chart.obliquity() * kDegreesPerRadian, 1)));
+    if (!hasCusps) {
+        return lines.text();
+    }
     std::wstring text = lines.text() + L"\n" + table.text();
-    if (!chart.cuspsComplete) {
+    if (!chart.cuspsComplete && chart.hasMoment) {
         text += L"Some cusps do not exist: Placidus has none at this latitude for this moment. "
                 L"Equal House (--set houseSystem=1) has all.\n";
     } else if (sandhiMissing(chart)) {

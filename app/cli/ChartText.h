@@ -8,11 +8,14 @@
 namespace kestrav::cli
 {
 
-/// Name, place, date, time and coordinates.
+/// Name, place, date, time and coordinates, or the file of the positions.
 [[nodiscard]] std::wstring inputText(const ComputedChart& computed);
 
 /// Universal Time, Delta T, Julian day, ayanamsa and, with a place, sidereal time.
 [[nodiscard]] std::wstring timeText(const ComputedChart& computed);
+
+/// What "--" means in a chart of bare positions, or where no day runs; else nothing.
+[[nodiscard]] std::wstring notComputedNote(const ComputedChart& computed);
 
 /// Sunrise and sunset of the civil date to the minute, with a sentence where there is none.
 [[nodiscard]] std::wstring daylightText(const ComputedChart& computed);

@@ -1,7 +1,9 @@
 #include "app/cli/Commands.h"
 
+#include "app/cli/AnalysisCommands.h"
 #include "app/cli/AyanamsaCommands.h"
 #include "app/cli/ChartCommands.h"
+#include "app/cli/MatchCommand.h"
 #include "app/cli/SettingsCommands.h"
 
 #include <array>
@@ -15,6 +17,12 @@ std::span<const Command* const> allCommands()
     static const PositionsCommand positions;
     static const HousesCommand houses;
     static const SunCommand sun;
+    static const VargasCommand vargas;
+    static const DignitiesCommand dignities;
+    static const StrengthsCommand strengths;
+    static const AshtakavargaCommand ashtakavarga;
+    static const PointsCommand points;
+    static const MatchCommand match;
     static const ListSettingsCommand listSettings;
     static const GetSettingCommand getSetting;
     static const SetSettingCommand setSetting;
@@ -22,8 +30,9 @@ std::span<const Command* const> allCommands()
     static const ListAyanamsasCommand listAyanamsas;
     static const SetAyanamsaCommand setAyanamsa;
     static const ResetAyanamsasCommand resetAyanamsas;
-    static const std::array<const Command*, 11> kAll = {
-        &chart,      &positions,     &houses,        &sun,         &listSettings,  &getSetting,
+    static const std::array<const Command*, 17> kAll = {
+        &chart,      &positions,     &houses,        &sun,         &vargas,        &dignities,
+        &strengths,  &ashtakavarga,  &points,        &match,       &listSettings,  &getSetting,
         &setSetting, &resetSettings, &listAyanamsas, &setAyanamsa, &resetAyanamsas};
     return kAll;
 }

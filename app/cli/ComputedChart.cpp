@@ -1,15 +1,21 @@
 #include "app/cli/ComputedChart.h"
 
+#include "analysis/AnalyseChart.h"
 #include "analysis/ComputeChart.h"
 #include "analysis/Motion.h"
+#include "analysis/SignPositions.h"
+#include "analysis/SpecialPoints.h"
+#include "analysis/StorePoint.h"
 #include "app/cli/CommandSettings.h"
 #include "app/cli/Console.h"
-#include "astro/DataFile.h"
+#include "app/cli/PositionsFile.h"
+#include "astro/Houses.h"
 #include "core/FileText.h"
 #include "core/Locations.h"
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace kestrav::cli
@@ -41,20 +47,138 @@ void reportLoadFailure(const astro::LoadResult& loaded, Console& console)
                    nowhere ? text + L" is in none of the folders " + foldersLookedIn() : text);
 }
 
-void compute(ComputedChart& computed, astro::EphemerisContext& context)
+void computeFromBirthData(ComputedChart& computed, astro::EphemerisContext& context)
 {
     core::Chart& chart = computed.chart;
     if (!computed.hasPlace) {
         analysis::computePositions(chart, computed.settings, context);
         analysis::computeMotions(chart, context);
         chart.weekday = core::Weekday(chart);
+        analysis::AnalyseChart(chart, computed.settings, context);
+        // Whether it is night depends on the place, and with it every saham.
+        for (const int point : {core::kSaham2, core::kSaham3}) {
+            core::at(chart.degreeInSign, point) = core::kNotComputed;
+        }
         return;
     }
     analysis::ComputeChart(chart, computed.settings, context);
     const astro::Observer observer = astro::observerOf(chart);
-    computed.day = astro::vedicDay(context, chart.time, observer);
+    computed.day = chart.vedicDay;
     computed.upperCulmination =
         astro::sunEvent(context, chart.time, observer, astro::HorizonEvent::UpperCulmination);
+    analysis::AnalyseChart(chart, computed.settings, context);
+}
+
+void storePositions(core::Chart& chart, const GivenPositions& positions)
+{
+    for (int point = 0; point < core::kPointCount; ++point) {
+        if (const std::optional<GivenPosition>& given = core::at(positions, point)) {
+            analysis::storePoint(chart, point, given->longitude);
+            core::at(chart.retrograde, point) = given->retrograde;
+        }
+    }
+}
+
+// The house systems that need no more than the ascendant, unless cusps were given.
+void storeHouses(core::Chart& chart, const GivenPositions& positions, int system)
+{
+    int given = 0;
+    for (int house = 1; house <= 12; ++house) {
+        given += core::at(positions, core::cuspPoint(house)) ? 1 : 0;
+    }
+    if (given > 0) {
+        chart.houseSystem = system;
+        chart.cuspsComplete = given == 12;
+    } else if (system == int(astro::HouseSystem::ByRashi) ||
+               system == int(astro::HouseSystem::EqualHouse)) {
+        astro::HouseCusps(chart, system);
+        for (int house = 1; house <= 12; ++house) {
+            analysis::computeSignData(chart, core::cuspPoint(house));
+        }
+    }
+}
+
+void computeFromPositions(ComputedChart& computed, const GivenPositions& positions,
+                          astro::EphemerisContext& context)
+{
+    core::Chart& chart = computed.chart;
+    storePositions(chart, positions);
+    storeHouses(chart, positions, computed.settings.houseSystem);
+    analysis::computeSpecialPoints(chart, computed.settings, context);
+    // A point that was given is not replaced by a computed one.
+    storePositions(chart, positions);
+    analysis::analyseSigns(chart, computed.settings);
+}
+
+// Settings and data of a call that computes.
+class Computer
+{
+public:
+    static std::optional<Computer> open(const Arguments& arguments, Console& console,
+                                        ExitCode& code)
+    {
+        const std::optional<core::Settings> settings = settingsOfCall(arguments, console, code);
+        if (!settings) {
+            return std::nullopt;
+        }
+        astro::LoadResult loaded = astro::LoadSeries();
+        if (!loaded.ok()) {
+            reportLoadFailure(loaded, console);
+            code = ExitCode::Failed;
+            return std::nullopt;
+        }
+        return Computer(*settings, std::move(*loaded.data));
+    }
+
+    std::optional<ComputedChart> compute(BirthData birth, Console& console, ExitCode& code) const
+    {
+        for (const std::string& warning : birth.warnings) {
+            console.warning(warning);
+        }
+        ComputedChart computed;
+        computed.chart = std::move(birth.chart);
+        computed.settings = settings_;
+        computed.hasPlace = birth.hasPlace;
+        astro::EphemerisContext context(data_.series);
+        if (!birth.positionsFile) {
+            computeFromBirthData(computed, context);
+            return computed;
+        }
+        computed.positionsFile = *birth.positionsFile;
+        const core::Result<GivenPositions> positions = readPositionsFile(computed.positionsFile);
+        if (!positions) {
+            console.error(positions.error().text());
+            code = ExitCode::Failed;
+            return std::nullopt;
+        }
+        computeFromPositions(computed, positions.value(), context);
+        return computed;
+    }
+
+    [[nodiscard]] const astro::MatchingTables& tables() const
+    {
+        return data_.matching;
+    }
+
+private:
+    Computer(core::Settings settings, astro::ProgramData data)
+        : settings_(settings), data_(std::move(data))
+    {}
+
+    core::Settings settings_;
+    astro::ProgramData data_;
+};
+
+std::optional<BirthData> birthData(const Arguments& arguments, PlaceNeed need,
+                                   std::string_view prefix, Console& console, ExitCode& code)
+{
+    core::Result<BirthData> birth = readBirthData(arguments, need, prefix);
+    if (!birth) {
+        console.error(birth.error().text());
+        code = ExitCode::Usage;
+        return std::nullopt;
+    }
+    return std::move(birth.value());
 }
 
 } // namespace
@@ -62,32 +186,31 @@ void compute(ComputedChart& computed, astro::EphemerisContext& context)
 std::optional<ComputedChart> computeFromArguments(const Arguments& arguments, PlaceNeed need,
                                                   Console& console, ExitCode& code)
 {
-    core::Result<BirthData> birth = readBirthData(arguments, need);
+    const std::optional<BirthData> birth = birthData(arguments, need, kOwnChart, console, code);
     if (!birth) {
-        console.error(birth.error().text());
-        code = ExitCode::Usage;
         return std::nullopt;
     }
-    const std::optional<core::Settings> settings = settingsOfCall(arguments, console, code);
-    if (!settings) {
+    const std::optional<Computer> computer = Computer::open(arguments, console, code);
+    return computer ? computer->compute(*birth, console, code) : std::nullopt;
+}
+
+std::optional<ComputedPair> computePairFromArguments(const Arguments& arguments, Console& console,
+                                                     ExitCode& code)
+{
+    const auto first = birthData(arguments, PlaceNeed::Optional, kOwnChart, console, code);
+    const auto second =
+        first ? birthData(arguments, PlaceNeed::Optional, kSecondChart, console, code) : first;
+    const auto computer = second ? Computer::open(arguments, console, code) : std::nullopt;
+    if (!computer) {
         return std::nullopt;
     }
-    const astro::LoadResult loaded = astro::LoadSeries();
-    if (!loaded.ok()) {
-        reportLoadFailure(loaded, console);
-        code = ExitCode::Failed;
+    std::optional<ComputedChart> one = computer->compute(*first, console, code);
+    std::optional<ComputedChart> other =
+        one ? computer->compute(*second, console, code) : std::nullopt;
+    if (!other) {
         return std::nullopt;
     }
-    for (const std::string& warning : birth.value().warnings) {
-        console.warning(warning);
-    }
-    ComputedChart computed;
-    computed.chart = std::move(birth.value().chart);
-    computed.settings = *settings;
-    computed.hasPlace = birth.value().hasPlace;
-    astro::EphemerisContext context(loaded.data->series);
-    compute(computed, context);
-    return computed;
+    return ComputedPair{std::move(*one), std::move(*other), computer->tables()};
 }
 
 } // namespace kestrav::cli

@@ -22,6 +22,36 @@ inline constexpr std::array<OptionInfo, 9> kBirthOptions = {{
      "the present moment instead of --date and --time; without --zone in the zone of the system"},
 }};
 
+/// A chart without birth data.
+inline constexpr std::array<OptionInfo, 1> kPositionsOption = {{
+    {"--positions", "FILE", "JSON file of positions to take instead of birth data"},
+}};
+
+/// The second chart of a comparison.
+inline constexpr std::array<OptionInfo, 8> kSecondChartOptions = {{
+    {"--with-date", "YYYY-MM-DD", "date of birth of the second chart"},
+    {"--with-time", "HH:MM[:SS[.f]]", "its clock time of birth"},
+    {"--with-zone", "+H:MM[:SS]", "its zone"},
+    {"--with-dst", "N", "its saving time; 0 when not given"},
+    {"--with-lon", "77E13[:SS]", "its geographic longitude"},
+    {"--with-lat", "28N39[:SS]", "its geographic latitude"},
+    {"--with-name", "TEXT", "its name"},
+    {"--with-positions", "FILE", "JSON file of positions to take as second chart"},
+}};
+
+/// Reasons of derived results.
+inline constexpr std::array<OptionInfo, 1> kExplainOption = {{
+    {"--explain", "QUERY",
+     "explain a result, such as mars:navamsha, after the others; may be repeated; list shows what "
+     "can be explained",
+     true},
+}};
+
+/// A divisional chart.
+inline constexpr std::array<OptionInfo, 1> kVargaOption = {{
+    {"--varga", "NAME|INDEX", "one divisional chart: its name, its index 0 to 20, or D9"},
+}};
+
 /// Settings of one call.
 inline constexpr std::array<OptionInfo, 2> kSetOptions = {{
     {"--set", "NAME=VALUE", "a setting for this call, which is not stored; may be repeated", true},

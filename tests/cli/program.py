@@ -23,6 +23,13 @@ TROMSO_IN_JUNE = ["--date", "1996-06-21", "--time", "10:34", "--zone", "1", "--l
                   "--lon", "19E00"]
 
 
+# Two horoscopes whose strengths are printed in textbooks: the longitudes of the points 0 to 9. The
+# nodes of J are not printed; they stand in no sign where they would matter.
+HOROSCOPE_R = [298.45, 180.8986, 311.2886, 229.5094, 181.5261, 84.0136, 171.1656, 124.3781,
+               234.3964, 54.3964]
+HOROSCOPE_J = [86.43, 146.38, 309.50, 103.18, 170.53, 170.45, 186.27, 166.43, 99.0, 279.0]
+
+
 class ProgramTest(unittest.TestCase):
     def setUp(self):
         holder = tempfile.TemporaryDirectory()
@@ -65,6 +72,17 @@ class ProgramTest(unittest.TestCase):
         self.assertRegex(errors, r"\A[^\n]*" + pattern + r"[^\n]*\n\Z")
         if how.get("stdout", subprocess.PIPE) == subprocess.PIPE:
             self.assertEqual(result.stdout, b"")
+
+    def positions(self, longitudes, name="positions.json", **more):
+        """Writes a file of positions by index, with further keys of all entries."""
+        points = [{"index": index, "longitude": longitude, **more}
+                  for index, longitude in (longitudes.items() if isinstance(longitudes, dict)
+                                           else enumerate(longitudes))]
+        return self.file(json.dumps({"points": points}), name)
+
+    def file(self, text, name="positions.json"):
+        (self.work / name).write_text(text, encoding="utf-8")
+        return name
 
     def point(self, chart, name):
         return next(point for point in chart["points"] if point["name"] == name)

@@ -6,7 +6,7 @@ import unittest
 
 import jsonschema
 
-from program import DOCS, EXAMPLE, TROMSO_IN_JUNE, ProgramTest
+from program import DOCS, EXAMPLE, HOROSCOPE_R, TROMSO_IN_JUNE, ProgramTest
 
 SCHEMA = json.loads((DOCS / "kestrav-cli.schema.json").read_text(encoding="utf-8"))
 IDES = ["--date", "-0044-03-15", "--time", "12:00", "--zone", "0:50", "--lat", "41.9", "--lon",
@@ -26,7 +26,9 @@ class Schema(ProgramTest):
             for item in value:
                 self.assertKeyOrder(item, schema.get("items", {}), path + "[]")
         elif isinstance(value, dict) and "properties" in schema:
-            self.assertEqual(list(value), list(schema["properties"]), path)
+            keys = [key for key in schema["properties"]
+                    if key in value or key in schema["required"]]
+            self.assertEqual(list(value), keys, path)
             for key, item in value.items():
                 self.assertKeyOrder(item, schema["properties"][key], path + "." + key)
 
@@ -46,11 +48,26 @@ class Schema(ProgramTest):
 
     def test_charts(self):
         tropical = EXAMPLE + ["--set", "ayanamsaRow=9", "--set", "magnitudes=on"]
-        for words in (EXAMPLE, POLAR, IDES, tropical):
-            for command in ("chart", "positions", "houses", "sun"):
+        bare = ["--positions", self.positions(HOROSCOPE_R)]
+        analysis = ("chart", "positions", "vargas", "dignities", "strengths", "ashtakavarga",
+                    "points")
+        for words in (EXAMPLE, POLAR, IDES, tropical, bare, bare + ["--set", "houseSystem=2"]):
+            for command in analysis + (() if words[:2] == bare else ("houses", "sun")):
                 with self.subTest(words=words, command=command):
                     self.check(command, *words)
         self.check("positions", *EXAMPLE[:6])
+
+    def test_options_of_the_analysis(self):
+        navamsha = self.check("vargas", *EXAMPLE, "--varga", "navamsha")
+        self.assertEqual([varga["index"] for varga in navamsha["vargas"]], [5])
+        self.check("ashtakavarga", *EXAMPLE, "--varga", "D9", "--reductions")
+        self.check("strengths", *EXAMPLE, "--name-letter", "3")
+        self.check("match", "--positions", self.positions(HOROSCOPE_R),
+                   "--with-date", "1996-12-07", "--with-time", "10:34", "--with-zone", "+5:30")
+        self.check("chart", *EXAMPLE, "--explain", "mars:navamsha", "--explain", "moon:dignity")
+        topics = self.json("points", "--explain", "list")
+        jsonschema.validate(topics, SCHEMA)
+        self.assertEqual(list(topics), definition("topics")["required"])
 
     def test_settings(self):
         for command in ("settings list", "settings reset", "settings ayanamsa list",
@@ -63,7 +80,8 @@ class Schema(ProgramTest):
     def test_schema_is_strict(self):
         chart = self.check("chart", *POLAR)
         validator = self.validator("chart")
-        for path in (["sun", "sunrise"], ["points", 5, "combust"], ["vargas"], ["input", "name"]):
+        for path in (["sun", "sunrise"], ["points", 5, "combust"], ["vargas"], ["input", "name"],
+                     ["vargas", 3, "placements", 7, "sign"], ["ashtakavarga", "trikona"]):
             broken = copy.deepcopy(chart)
             parent = broken
             for key in path[:-1]:

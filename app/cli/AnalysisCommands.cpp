@@ -1,0 +1,216 @@
+#include "app/cli/AnalysisCommands.h"
+
+#include "analysis/Ashtakavarga.h"
+#include "app/cli/AshtakavargaOutput.h"
+#include "app/cli/ChartJson.h"
+#include "app/cli/ChartText.h"
+#include "app/cli/DignityOutput.h"
+#include "app/cli/SharedOptions.h"
+#include "app/cli/SpecialPointsOutput.h"
+#include "app/cli/StrengthJson.h"
+#include "app/cli/StrengthText.h"
+#include "app/cli/VargaOutput.h"
+#include "core/NumberText.h"
+
+#include <nlohmann/json.hpp>
+
+namespace kestrav::cli
+{
+
+namespace
+{
+
+constexpr std::array<OptionInfo, 1> kReductionsOption = {{
+    {"--reductions", "", "add the trikona and ekadhipatya reductions and the pindas"},
+}};
+
+constexpr std::array<OptionInfo, 1> kNameLetterOption = {{
+    {"--name-letter", "N", "group 1 to 5 of the first sound of the name, for the Shayanadi states"},
+}};
+
+CommandInfo infoOf(std::string_view name, std::string_view description,
+                   const std::vector<std::span<const OptionInfo>>& own = {})
+{
+    CommandInfo info = {name, description, {}, {kBirthOptions, kPositionsOption}};
+    info.optionGroups.insert(info.optionGroups.end(), own.begin(), own.end());
+    info.optionGroups.insert(info.optionGroups.end(),
+                             {kExplainOption, kSetOptions, kCommonOptions});
+    return info;
+}
+
+core::Result<void> checkVarga(const Arguments& arguments)
+{
+    const auto varga = chosenVarga(arguments);
+    return varga ? core::Result<void>() : varga.error();
+}
+
+// 0 when the option was not typed.
+core::Result<int> nameLetter(const Arguments& arguments)
+{
+    const std::optional<std::string> text = arguments.value("--name-letter");
+    if (!text) {
+        return 0;
+    }
+    const std::optional<int> group = core::parseInteger(*text);
+    if (!group || *group < 1 || *group > 5) {
+        return core::Error{"--name-letter '" + *text + "' is not a whole number from 1 to 5"};
+    }
+    return *group;
+}
+
+// All that the strengths command shows.
+struct Strengths
+{
+    Strengths(const ComputedChart& computed, int letter)
+        : inputs(analysis::strengthInputs(computed.chart)),
+          shadbala(analysis::computeShadbala(computed.chart, inputs)),
+          houses(analysis::computeBhavaBala(computed.chart, shadbala)),
+          rashmis(analysis::computeRashmis(computed.chart, computed.settings)),
+          avasthas(analysis::computeAvasthas(computed.chart, inputs, letter, computed.settings)),
+          aspects(analysis::bodyAspects(computed.chart, computed.settings))
+    {
+        const auto onHouses = analysis::houseAspects(computed.chart, computed.settings);
+        aspects.insert(aspects.end(), onHouses.begin(), onHouses.end());
+    }
+
+    analysis::StrengthInputs inputs;
+    analysis::ShadbalaTable shadbala;
+    std::array<analysis::BhavaBala, 12> houses;
+    analysis::Rashmis rashmis;
+    std::array<analysis::Avasthas, 10> avasthas;
+    std::vector<analysis::Aspect> aspects;
+};
+
+analysis::Ashtakavarga ashtakavargaOf(const ComputedChart& computed, const Arguments& arguments)
+{
+    const int varga = chosenVarga(arguments).value().value_or(core::kRashi);
+    return analysis::computeAshtakavarga(computed.chart, varga, arguments.has("--reductions"));
+}
+
+} // namespace
+
+VargasCommand::VargasCommand()
+    : ComputingCommand(
+          infoOf("vargas", "Compute the divisional charts and the vimshopaka", {kVargaOption}))
+{}
+
+core::Result<void> VargasCommand::check(const Arguments& arguments) const
+{
+    return checkVarga(arguments);
+}
+
+void VargasCommand::addJson(Json& object, const ComputedChart& computed,
+                            const Arguments& arguments) const
+{
+    object["vargas"] = vargasJson(computed, chosenVarga(arguments).value());
+    object["vimshopaka"] = vimshopakaJson(computed);
+}
+
+std::wstring VargasCommand::text(const ComputedChart& computed, const Arguments& arguments) const
+{
+    if (const std::optional<int> varga = chosenVarga(arguments).value()) {
+        return inputText(computed) + L"\n" + vargaText(computed, *varga);
+    }
+    return inputText(computed) + L"\n" + vargaSignsText(computed, placedPoints(computed)) + L"\n" +
+           vargaListText() + L"\n" + vimshopakaText(computed);
+}
+
+DignitiesCommand::DignitiesCommand()
+    : ComputingCommand(
+          infoOf("dignities", "Compute dignities, relationships and functional nature"))
+{}
+
+void DignitiesCommand::addJson(Json& object, const ComputedChart& computed,
+                               const Arguments& /*arguments*/) const
+{
+    object["dignities"] = dignitiesJson(computed);
+    object["relationships"] = relationshipsJson(computed);
+    object["functional"] = functionalJson(computed);
+}
+
+std::wstring DignitiesCommand::text(const ComputedChart& computed,
+                                    const Arguments& /*arguments*/) const
+{
+    return inputText(computed) + L"\n" + planetsText(computed) + L"\n" +
+           vargaDignitiesText(computed) + L"\n" + relationshipsText(computed);
+}
+
+StrengthsCommand::StrengthsCommand()
+    : ComputingCommand(infoOf("strengths",
+                              "Compute shadbala, bhava bala, rashmis, avasthas, planetary wars and "
+                              "aspects",
+                              {kNameLetterOption}))
+{}
+
+core::Result<void> StrengthsCommand::check(const Arguments& arguments) const
+{
+    const core::Result<int> letter = nameLetter(arguments);
+    return letter ? core::Result<void>() : letter.error();
+}
+
+void StrengthsCommand::addJson(Json& object, const ComputedChart& computed,
+                               const Arguments& arguments) const
+{
+    const Strengths strengths(computed, nameLetter(arguments).value());
+    object["shadbala"] = shadbalaJson(strengths.shadbala);
+    object["bhavaBala"] = bhavaBalaJson(strengths.houses);
+    object["rashmis"] = rashmisJson(strengths.rashmis);
+    object["avasthas"] = avasthasJson(strengths.avasthas);
+    object["war"] = warsJson(strengths.shadbala.wars);
+    object["aspects"] = aspectsJson(strengths.aspects);
+}
+
+std::wstring StrengthsCommand::text(const ComputedChart& computed, const Arguments& arguments) const
+{
+    const Strengths strengths(computed, nameLetter(arguments).value());
+    return inputText(computed) + L"\n" + shadbalaText(strengths.shadbala, strengths.rashmis) +
+           notComputedNote(computed) + L"\n" + bhavaBalaText(strengths.houses) + L"\n" +
+           avasthasText(strengths.avasthas) + L"\n" + warsText(strengths.shadbala.wars) + L"\n" +
+           aspectsText(strengths.aspects);
+}
+
+AshtakavargaCommand::AshtakavargaCommand()
+    : ComputingCommand(
+          infoOf("ashtakavarga", "Compute the ashtakavarga", {kVargaOption, kReductionsOption}))
+{}
+
+core::Result<void> AshtakavargaCommand::check(const Arguments& arguments) const
+{
+    return checkVarga(arguments);
+}
+
+void AshtakavargaCommand::addJson(Json& object, const ComputedChart& computed,
+                                  const Arguments& arguments) const
+{
+    object["ashtakavarga"] = ashtakavargaJson(ashtakavargaOf(computed, arguments));
+}
+
+std::wstring AshtakavargaCommand::text(const ComputedChart& computed,
+                                       const Arguments& arguments) const
+{
+    return inputText(computed) + L"\n" + ashtakavargaText(ashtakavargaOf(computed, arguments));
+}
+
+PointsCommand::PointsCommand()
+    : ComputingCommand(infoOf("points", "Compute the special points, karakas, sphutas and sahams"))
+{}
+
+void PointsCommand::addJson(Json& object, const ComputedChart& computed,
+                            const Arguments& /*arguments*/) const
+{
+    object["points"] = pointsJson(computed);
+    object["karakas"] = karakasJson(computed);
+    object["sphutas"] = sphutasJson(computed);
+    object["sahams"] = sahamsJson(computed);
+}
+
+std::wstring PointsCommand::text(const ComputedChart& computed,
+                                 const Arguments& /*arguments*/) const
+{
+    return inputText(computed) + L"\n" + pointsText(computed) + L"\n" +
+           specialPointsText(computed) + notComputedNote(computed) + L"\n" + yogiText(computed) +
+           L"\n" + karakasText(computed) + L"\n" + sphutasText(computed) + L"\n" +
+           sahamsText(computed);
+}
+
+} // namespace kestrav::cli
