@@ -252,8 +252,9 @@ std::wstring housesText(const ComputedChart& computed)
     }
     std::wstring text = lines.text() + L"\n" + table.text();
     if (!chart.cuspsComplete && chart.hasMoment) {
-        text += L"Some cusps do not exist: Placidus has none at this latitude for this moment. "
-                L"Equal House (--set houseSystem=1) has all.\n";
+        text += wrapped(L"Some cusps do not exist: Placidus has none at this latitude for this "
+                        L"moment. Equal House (--set houseSystem=1) has all.",
+                        L"");
     } else if (sandhiMissing(chart)) {
         text += L"Some sandhis do not exist at this latitude for this moment.\n";
     }

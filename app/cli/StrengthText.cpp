@@ -271,8 +271,12 @@ std::wstring bhavaBalaText(const std::array<analysis::BhavaBala, 12>& houses)
 
 std::wstring avasthasText(const std::array<analysis::Avasthas, 10>& avasthas)
 {
-    TextTable table(
-        {{L"Body"}, {L"Baladi"}, {L"Jagradadi"}, {L"Deeptadi"}, {L"Shayanadi"}, {L"Lajjitadi"}});
+    TextTable table({{L"Body"},
+                     {L"Baladi"},
+                     {L"Jagradadi"},
+                     {L"Deeptadi"},
+                     {L"Shayanadi"},
+                     {L"Lajjitadi", Align::Wrapped}});
     for (int body = core::kSun; body <= core::kKetu; ++body) {
         const analysis::Avasthas& states = at(avasthas, body);
         std::wstring company;
