@@ -171,8 +171,9 @@ Answer explainKakshya(const Request& request)
                       L"Sun, Venus, Mercury, the Moon and the ascendant");
     step(explanation, nameOf(planet), L" stands at ", placeText(longitude), L", in the ",
          ordinal(kakshya.part + 1), L", that of ", nameOf(kakshya.lord));
-    step(explanation, L"in the ashtakavarga of ", nameOf(planet), L" ", nameOf(kakshya.lord),
-         bindu ? L" gives" : L" does not give", L" a bindu to ", signText(at(chart.rashi, planet)));
+    step(explanation, L"as contributor to the ashtakavarga of ", nameOf(planet), L", ",
+         nameOf(kakshya.lord), bindu ? L" gives" : L" does not give", L" a bindu to ",
+         signText(at(chart.rashi, planet)));
     return explanation;
 }
 

@@ -3,7 +3,6 @@
 #include "analysis/AspectTable.h"
 #include "analysis/Aspects.h"
 #include "analysis/BhavaBala.h"
-#include "analysis/Dignities.h"
 #include "core/Angles.h"
 #include "core/SignData.h"
 
@@ -84,7 +83,9 @@ Answer explainAspect(const Request& request)
     }
     Explanation explanation =
         about(text(L"aspect of ", nameOf(request.point), L" on ", nameOf(*to)));
-    addSettings(explanation, settings, {"nodeAspectOption"});
+    if (request.point > core::kSaturn) {
+        addSettings(explanation, settings, {"nodeAspectOption"});
+    }
     if (isHouse(*to)) {
         addSettings(explanation, settings, {"houseSystem"});
     }

@@ -7,6 +7,7 @@
 #include "analysis/Lajjitadi.h"
 #include "analysis/Rashmis.h"
 
+#include <algorithm>
 #include <array>
 
 namespace kestrav::analysis::explaining
@@ -93,12 +94,16 @@ std::wstring explainLajjitadi(Explanation& explanation, const StateRequest& stat
     const core::Chart& chart = state.request.chart;
     const int body = state.request.point;
     const Company company = companyOf(chart, naturalBenefics(chart), body, state.request.settings);
-    step(explanation, L"Lajjitadi: with it are ", bodiesText(company.with),
-         L"; it is fully aspected by ", bodiesText(company.aspectedBy), L"; natural malefics are ",
-         bodiesText(company.malefics));
+    const BodySet near = company.with | company.aspectedBy;
+    step(explanation, L"Lajjitadi: bodies in its sign: ", bodiesText(company.with),
+         L"; bodies that fully aspect it: ", bodiesText(company.aspectedBy),
+         L"; natural malefics of the chart: ", bodiesText(company.malefics));
+    step(explanation, L"its natural friends among those with it or aspecting it: ",
+         bodiesText(near & naturalRelations(body, kFriend)), L"; its natural enemies: ",
+         bodiesText(near & naturalRelations(body, kEnemy)));
     step(explanation, L"its relationship to the lord of its sign is ",
-         dignityWord(relationshipToLord(chart, body, state.request.settings) + 3, false),
-         L" and its dignity ", dignityText(state.request));
+         codeText(relationshipToLord(chart, body, state.request.settings)), L", its dignity ",
+         dignityText(state.request));
     std::vector<std::wstring> names;
     for (const Lajjitadi each : state.states.lajjitadi) {
         constexpr std::array<std::wstring_view, 6> kReasons = {
@@ -134,42 +139,70 @@ struct Family
 {
     std::string_view name;
     std::wstring (*explain)(Explanation&, const StateRequest&);
+    bool byDignity;
+    bool byCombustion;
+    bool byAspect;
 };
 
-constexpr std::array<Family, 5> kFamilies = {{{"baladi", explainBaladi},
-                                              {"jagradadi", explainJagradadi},
-                                              {"deeptadi", explainDeeptadi},
-                                              {"lajjitadi", explainLajjitadi},
-                                              {"shayanadi", explainShayanadi}}};
+constexpr std::array<Family, 5> kFamilies = {
+    {{"baladi", explainBaladi, false, false, false},
+     {"jagradadi", explainJagradadi, true, false, false},
+     {"deeptadi", explainDeeptadi, true, true, false},
+     {"lajjitadi", explainLajjitadi, true, false, true},
+     {"shayanadi", explainShayanadi, false, false, false}}};
+
+std::vector<Family> wantedFamilies(std::string_view name)
+{
+    const std::string wanted = plainName(name);
+    std::vector<Family> families;
+    for (const Family& family : kFamilies) {
+        if (wanted.empty() || family.name == wanted) {
+            families.push_back(family);
+        }
+    }
+    return families;
+}
+
+void addFamilySettings(Explanation& explanation, const Request& request,
+                       const std::vector<Family>& families)
+{
+    const auto any = [&families](bool Family::*uses) {
+        return std::any_of(families.begin(), families.end(),
+                           [uses](const Family& family) { return family.*uses; });
+    };
+    if (any(&Family::byDignity)) {
+        addSettings(
+            explanation, request.settings,
+            {request.point > core::kSaturn ? "nodeDignityScheme" : "naturalRelationshipsOnly"});
+    }
+    if (any(&Family::byCombustion) && request.point <= core::kSaturn) {
+        addSettings(explanation, request.settings, {"directCombustionOrbsOnly"});
+    }
+    if (any(&Family::byAspect)) {
+        addSettings(explanation, request.settings, {"nodeAspectOption"});
+    }
+}
 
 } // namespace
 
 Answer explainAvastha(const Request& request)
 {
     const core::Chart& chart = request.chart;
-    const std::string wanted = plainName(request.detail);
-    Explanation explanation = about(L"avasthas of " + nameOf(request.point));
-    addSettings(explanation, request.settings,
-                {"nodeDignityScheme", "naturalRelationshipsOnly", "directCombustionOrbsOnly",
-                 "nodeAspectOption"});
-    bool known = wanted.empty();
-    for (const Family& family : kFamilies) {
-        known = known || family.name == wanted;
-    }
-    if (!known) {
+    const std::vector<Family> families = wantedFamilies(request.detail);
+    if (families.empty()) {
         return unknown("the family of avasthas", request.detail,
                        "baladi, jagradadi, deeptadi, lajjitadi or shayanadi");
     }
+    Explanation explanation = about(L"avasthas of " + nameOf(request.point));
+    addFamilySettings(explanation, request, families);
     if (!chart.computed(request.point)) {
         return notComputed(explanation, whyNoPosition(chart, request.point));
     }
     const StrengthInputs inputs = strengthInputs(chart);
     const Avasthas states = at(computeAvasthas(chart, inputs, 0, request.settings), request.point);
-    for (const Family& family : kFamilies) {
-        if (wanted.empty() || family.name == wanted) {
-            const std::wstring value = family.explain(explanation, {request, inputs, states});
-            explanation.result += (explanation.result.empty() ? L"" : L"; ") + value;
-        }
+    for (const Family& family : families) {
+        const std::wstring value = family.explain(explanation, {request, inputs, states});
+        explanation.result += (explanation.result.empty() ? L"" : L"; ") + value;
     }
     return explanation;
 }

@@ -26,11 +26,6 @@ std::wstring_view naturalWord(int natural)
     return natural > 0 ? L"friend" : natural < 0 ? L"enemy" : L"neutral";
 }
 
-std::wstring_view word(int code)
-{
-    return dignityWord(code + 3, false);
-}
-
 // Exaltation, moolatrikona and own sign in the rashi go by the degree.
 void addBand(Explanation& explanation, const Request& request)
 {
@@ -89,8 +84,8 @@ void addByLord(Explanation& explanation, const Request& request, int varga, int 
         step(explanation, L"so it is in its own sign");
     } else if (isNode(point)) {
         step(explanation, L"the nodes have their relationship by the sign alone: ",
-             word(relationship(request.chart, point, lord, varga, sign, request.settings)), L" in ",
-             signText(sign));
+             codeText(relationship(request.chart, point, lord, varga, sign, request.settings)),
+             L" in ", signText(sign));
     } else {
         addRelationshipSteps(explanation, request, point, lord, varga, sign);
     }
@@ -135,7 +130,7 @@ void addRelationshipSteps(Explanation& explanation, const Request& request, int 
              ordinal(house), L" sign from ", nameOf(other), L": temporary ",
              compound > natural ? L"friend (2, 3, 4, 10, 11, 12)" : L"enemy (1, 5, 6, 7, 8, 9)");
     }
-    step(explanation, L"together: ", word(compound));
+    step(explanation, L"together: ", codeText(compound));
 }
 
 Answer explainDignity(const Request& request)
@@ -154,6 +149,7 @@ Answer explainDignity(const Request& request)
     }
     Explanation explanation =
         about(text(L"dignity of ", nameOf(point), L" in the ", vargaText(varga)));
+    addPlacementSettings(explanation, settings, varga);
     addDignitySettings(explanation, request, varga);
     const int sign = signInVarga(chart, varga, point);
     if (sign == 0) {
@@ -175,7 +171,10 @@ Answer explainDignity(const Request& request)
         return explanation;
     }
     if (code == kExalted) {
-        step(explanation, L"so it is in its sign of exaltation");
+        step(explanation, L"so it is in its sign of exaltation",
+             varga == core::kRashi ? L""
+                                   : L", which tables of divisional charts show by the word of "
+                                     L"moolatrikona");
     } else if (point >= core::kDhuma) {
         step(explanation, L"upagrahas have no dignity in other signs");
     } else {
@@ -198,8 +197,9 @@ Answer explainRelationship(const Request& request)
     Explanation explanation =
         about(text(L"relationship of ", nameOf(request.point), L" towards ", nameOf(*other)));
     addSettings(explanation, request.settings, {"naturalRelationshipsOnly"});
-    explanation.result = text(word(at(at(chart.compound, request.point), *other)), L" (by nature ",
-                              naturalWord(naturalRelationship(request.point, *other)), L")");
+    explanation.result =
+        text(codeText(at(at(chart.compound, request.point), *other)), L" (by nature ",
+             naturalWord(naturalRelationship(request.point, *other)), L")");
     addRelationshipSteps(explanation, request, request.point, *other, core::kRashi,
                          at(chart.rashi, *other));
     return explanation;

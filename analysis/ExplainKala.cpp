@@ -97,8 +97,8 @@ void explainHora(Explanation& explanation, const StrengthRequest& request)
          L"Saturn, Jupiter, Mars");
     const std::optional<int> hora = runningHora(request.chart);
     if (hora && request.inputs.horaLord) {
-        addLord(explanation, text(L"running hora, number ", *hora + 1), *request.inputs.horaLord,
-                60);
+        addLord(explanation, text(L"running hora (number ", *hora + 1, L")"),
+                *request.inputs.horaLord, 60);
     }
 }
 

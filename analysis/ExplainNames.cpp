@@ -21,7 +21,7 @@ struct Alias
 };
 
 // Names besides those of the tables, as plainName writes them.
-constexpr std::array<Alias, 11> kAliases = {{
+constexpr std::array<Alias, 10> kAliases = {{
     {"lagna", core::kAscendant},
     {"arudhalagna", core::kArudhaLagna},
     {"upapada", core::kUpapada},
@@ -32,8 +32,10 @@ constexpr std::array<Alias, 11> kAliases = {{
     {"partoffortune", core::kPartOfFortune},
     {"saham2", core::kSaham2},
     {"saham3", core::kSaham3},
-    {"midheaven", core::kCusp1 + 9},
 }};
+
+// The first letters of a sign that tell it from the others.
+constexpr std::size_t kSignLetters = 3;
 
 // The point of "house4", "hs4", "cusp4", "bhava4", "arudha4" or "a4", counted from the first point
 // of its row.
@@ -139,8 +141,9 @@ std::optional<int> findSign(std::string_view name)
     const std::string wanted = plainName(name);
     const std::optional<int> number = core::parseInteger(wanted);
     for (int sign = 1; sign <= 12; ++sign) {
-        if (number == sign || plainName(core::signNameLong(sign)) == wanted ||
-            plainName(core::SignName3(sign)) == wanted) {
+        const bool begins = wanted.size() >= kSignLetters &&
+                            plainName(core::signNameLong(sign)).substr(0, wanted.size()) == wanted;
+        if (number == sign || begins) {
             return sign;
         }
     }

@@ -46,6 +46,15 @@ void addHouse(Explanation& explanation, const Request& request)
         step(explanation, L"the position was given with the chart");
         return;
     }
+    if (request.point != core::kAscendant && chart.houseSystem <= 1) {
+        step(explanation,
+             chart.houseSystem == 0
+                 ? L"each house is a whole sign, counted from that of the ascendant ("
+                 : L"the houses follow each other in steps of 30 degrees from the ascendant (",
+             placeText(chart.longitude[core::kAscendant]), L")",
+             chart.houseSystem == 0 ? L", and its middle stands for it" : L"");
+        return;
+    }
     step(explanation, L"it follows from the local sidereal time ",
          clockText({}, chart.localSiderealTime), L", the obliquity and the latitude ",
          decimal(chart.geoLatitude, 4), L", less the ayanamsa ", angle(chart.ayanamsa), L" (",
@@ -155,13 +164,27 @@ void addRule(Explanation& explanation, const Request& request)
     }
 }
 
+bool restsOnMoon(int point)
+{
+    switch (point) {
+    case core::kMoon:
+    case core::kInduLagna:
+    case core::kShriLagna:
+    case core::kYogiPoint:
+    case core::kPartOfFortune:
+        return true;
+    default:
+        return false;
+    }
+}
+
 void addLongitudeSettings(Explanation& explanation, const Request& request)
 {
     const core::Settings& settings = request.settings;
     const int point = request.point;
     if (request.chart.hasMoment) {
         addSettings(explanation, settings, {"ayanamsaRow", "deltaTOn"});
-        if (point == core::kMoon) {
+        if (restsOnMoon(point)) {
             addSettings(explanation, settings, {"preciseMoon"});
         }
     }
@@ -171,6 +194,9 @@ void addLongitudeSettings(Explanation& explanation, const Request& request)
         addSettings(explanation, settings, {"upagrahaAtMiddle"});
     } else if (arudhaHouse(point) != 0) {
         addSettings(explanation, settings, {"coLords"});
+        if (settings.coLords) {
+            addSettings(explanation, settings, {"nodeDignityScheme"});
+        }
     } else if (point == core::kSaham2) {
         addSettings(explanation, settings, {"saham2"});
     } else if (point == core::kSaham3) {

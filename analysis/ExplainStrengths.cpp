@@ -2,6 +2,7 @@
 
 #include "analysis/Aspects.h"
 #include "analysis/CheshtaBala.h"
+#include "analysis/Dignities.h"
 #include "analysis/DignityTables.h"
 #include "analysis/VargaNames.h"
 #include "core/Angles.h"
@@ -23,6 +24,8 @@ struct Part
     std::wstring_view title;
     Strength (*value)(const Shadbala&);
     void (*explain)(Explanation&, const StrengthRequest&);
+    /// Whether the compound relationships enter, as in the saptavargaja bala and all with it.
+    bool byRelationship = false;
 };
 
 void explainUccha(Explanation& explanation, const StrengthRequest& request)
@@ -42,9 +45,17 @@ void explainSaptavargaja(Explanation& explanation, const StrengthRequest& reques
          L"own sign 30, other signs 22.5, 15, 7.5, 3.75 or 1.875 by the compound "
          L"relationship of the Rashi to their lord, from great friend to great enemy");
     for (const SaptavargajaPart& part : saptavargajaParts(request.chart, request.planet)) {
+        if (part.sign == 0) {
+            continue;
+        }
+        const int lord = signLord(part.sign);
+        const bool moolatrikona =
+            part.varga == core::kRashi && part.sign == moolatrikonaSign(request.planet, 0);
         step(explanation, vargaText(part.varga), L": ", signText(part.sign), L", lord ",
-             part.sign == 0 ? std::wstring(L"none") : nameOf(signLord(part.sign)), L": ",
-             part.score ? decimal(*part.score, 3) : std::wstring(L"not computed"));
+             nameOf(lord), L", ",
+             moolatrikona ? dignityWord(kDisplayMoolatrikona, false)
+                          : codeText(at(at(request.chart.compound, request.planet), lord)),
+             L": ", part.score ? decimal(*part.score, 3) : std::wstring(L"not computed"));
     }
 }
 
@@ -142,9 +153,10 @@ void explainDrik(Explanation& explanation, const StrengthRequest& request)
     const NaturalBenefics benefic = naturalBenefics(request.chart);
     for (int other = core::kSun; other <= core::kSaturn; ++other) {
         if (other != request.planet && request.chart.computed(other)) {
-            step(explanation, nameOf(other), at(benefic, other) ? L", benefic: +" : L", malefic: -",
-                 decimal(aspectValueOn(request.chart, other,
-                                       at(request.chart.longitude, request.planet))));
+            const double value =
+                aspectValueOn(request.chart, other, at(request.chart.longitude, request.planet));
+            step(explanation, nameOf(other), at(benefic, other) ? L", benefic: " : L", malefic: ",
+                 decimal(at(benefic, other) ? value : -value));
         }
     }
 }
@@ -185,11 +197,11 @@ void explainPhala(Explanation& explanation, const StrengthRequest& request)
 // clang-format off
 constexpr std::array<Part, 22> kParts = {{
     {"uccha",        "sthana", L"uccha bala",        [](const Shadbala& b) { return b.sthana.uccha; },        explainUccha},
-    {"saptavargaja", "sthana", L"saptavargaja bala", [](const Shadbala& b) { return b.sthana.saptavargaja; }, explainSaptavargaja},
+    {"saptavargaja", "sthana", L"saptavargaja bala", [](const Shadbala& b) { return b.sthana.saptavargaja; }, explainSaptavargaja, true},
     {"ojayugma",     "sthana", L"ojayugma bala",     [](const Shadbala& b) { return b.sthana.ojayugma; },     explainOjayugma},
     {"kendradi",     "sthana", L"kendradi bala",     [](const Shadbala& b) { return b.sthana.kendradi; },     explainKendradi},
     {"drekkana",     "sthana", L"drekkana bala",     [](const Shadbala& b) { return b.sthana.drekkana; },     explainDrekkana},
-    {"sthana",       "",       L"sthana bala",       [](const Shadbala& b) { return b.sthana.total(); },      explainSthana},
+    {"sthana",       "",       L"sthana bala",       [](const Shadbala& b) { return b.sthana.total(); },      explainSthana, true},
     {"dig",          "",       L"dig bala",          [](const Shadbala& b) { return b.dig; },                 explainDig},
     {"nathonnatha",  "kala",   L"nathonnatha bala",  [](const Shadbala& b) { return b.kala.nathonnatha; },    explainNathonnatha},
     {"paksha",       "kala",   L"paksha bala",       [](const Shadbala& b) { return b.kala.paksha; },         explainPaksha},
@@ -199,8 +211,8 @@ constexpr std::array<Part, 22> kParts = {{
     {"vara",         "kala",   L"vara bala",         [](const Shadbala& b) { return b.kala.vara; },           explainVara},
     {"hora",         "kala",   L"hora bala",         [](const Shadbala& b) { return b.kala.hora; },           explainHora},
     {"ayana",        "kala",   L"ayana bala",        [](const Shadbala& b) { return b.kala.ayana; },          explainAyana},
-    {"yuddha",       "kala",   L"yuddha bala",       [](const Shadbala& b) { return b.kala.yuddha; },         explainYuddha},
-    {"kala",         "",       L"kala bala",         [](const Shadbala& b) { return b.kala.total(); },        explainKala},
+    {"yuddha",       "kala",   L"yuddha bala",       [](const Shadbala& b) { return b.kala.yuddha; },         explainYuddha, true},
+    {"kala",         "",       L"kala bala",         [](const Shadbala& b) { return b.kala.total(); },        explainKala, true},
     {"cheshta",      "",       L"cheshta bala",      [](const Shadbala& b) { return b.cheshta; },             explainCheshta},
     {"naisargika",   "",       L"naisargika bala",   [](const Shadbala& b) { return Strength(b.naisargika); }, explainNaisargika},
     {"drik",         "",       L"drik bala",         [](const Shadbala& b) { return b.drik; },                explainDrik},
@@ -208,7 +220,7 @@ constexpr std::array<Part, 22> kParts = {{
     {"kashta",       "",       L"kashta phala",      [](const Shadbala& b) { return b.phala.kashta; },        explainPhala},
 }};
 constexpr Part kTotal =
-    {"total",        "",       L"shadbala",          [](const Shadbala& b) { return b.total; },               explainTotal};
+    {"total",        "",       L"shadbala",          [](const Shadbala& b) { return b.total; },               explainTotal, true};
 // clang-format on
 
 std::string lowered(std::string_view name)
@@ -259,8 +271,7 @@ Answer explainStrength(const Request& request)
     }
     const core::Chart& chart = request.chart;
     Explanation explanation = about(text(part->title, L" of ", nameOf(request.point)));
-    // The compound relationships enter the place strength and with it what follows from it.
-    if (part->name == "saptavargaja" || part->name == "sthana" || part->name == "total") {
+    if (part->byRelationship) {
         addSettings(explanation, request.settings, {"naturalRelationshipsOnly"});
     }
     if (!chart.computed(request.point)) {

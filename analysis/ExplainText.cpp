@@ -1,5 +1,6 @@
 #include "analysis/ExplainText.h"
 
+#include "analysis/Dignities.h"
 #include "analysis/VargaNames.h"
 #include "core/Angles.h"
 #include "core/FileText.h"
@@ -185,6 +186,11 @@ std::wstring vargaText(int varga)
 std::wstring signText(int sign)
 {
     return sign == 0 ? std::wstring(L"no sign") : std::wstring(core::signNameLong(sign));
+}
+
+std::wstring_view codeText(int code)
+{
+    return dignityWord(code == kExalted ? kDisplayExalted : code + 3, false);
 }
 
 std::wstring whyIncomplete(const core::Chart& chart)

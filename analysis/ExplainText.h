@@ -89,6 +89,10 @@ void addSettings(Explanation& explanation, const core::Settings& settings,
 /// "Scorpio" and the like; "no sign" for 0.
 [[nodiscard]] std::wstring signText(int sign);
 
+/// The word of a dignity or relationship code, -3 to 4. Tables of divisional charts show the word
+/// of code + 3 instead, which for an exalted point is that of moolatrikona.
+[[nodiscard]] std::wstring_view codeText(int code);
+
 /// Why a point has no position in the chart.
 [[nodiscard]] std::wstring whyNoPosition(const core::Chart& chart, int point);
 

@@ -56,6 +56,9 @@ void addArudhaSteps(Explanation& explanation, const Request& request, int varga,
 /// The house, 1 to 12, whose arudha a point is; 0 for every other point.
 [[nodiscard]] int arudhaHouse(int point);
 
+/// Adds the settings that choose the rule of a varga.
+void addPlacementSettings(Explanation& explanation, const core::Settings& settings, int varga);
+
 /// Adds the relationship of a planet 1 to 7 towards another in a varga.
 void addRelationshipSteps(Explanation& explanation, const Request& request, int planet, int other,
                           int varga, int sign);

@@ -237,9 +237,10 @@ void addPosition(Explanation& explanation, const Subject& subject)
          part.nearBoundary ? L"near the boundary" : L"not near the boundary");
 }
 
-void addVargaSettings(Explanation& explanation, const Request& request, int varga)
+} // namespace
+
+void addPlacementSettings(Explanation& explanation, const core::Settings& settings, int varga)
 {
-    const core::Settings& settings = request.settings;
     switch (varga) {
     case core::kHora:
         addSettings(explanation, settings, {"horaMethod"});
@@ -253,19 +254,17 @@ void addVargaSettings(Explanation& explanation, const Request& request, int varg
     default:
         break;
     }
-    if (arudhaHouse(request.point) != 0) {
-        addSettings(explanation, settings, {"arudhasInVargas", "coLords"});
-    }
-    addSettings(explanation, settings, {"sandhiMinutes"});
 }
-
-} // namespace
 
 Answer explainVarga(const Request& request, int varga)
 {
     const core::Chart& chart = request.chart;
     Explanation explanation = about(nameOf(request.point) + L" in the " + vargaText(varga));
-    addVargaSettings(explanation, request, varga);
+    addPlacementSettings(explanation, request.settings, varga);
+    if (arudhaHouse(request.point) != 0) {
+        addSettings(explanation, request.settings, {"arudhasInVargas", "coLords"});
+    }
+    addSettings(explanation, request.settings, {"sandhiMinutes"});
     if (!chart.computed(request.point)) {
         return notComputed(explanation, whyNoPosition(chart, request.point));
     }

@@ -1,7 +1,6 @@
 #include "analysis/ExplainTopics.h"
 
 #include "analysis/Dignities.h"
-#include "analysis/DignityTables.h"
 #include "analysis/Vargas.h"
 #include "analysis/Vimshopaka.h"
 
@@ -43,15 +42,13 @@ void addVargaSteps(Explanation& explanation, const Request& request, int set)
             vimshopakaScore(chart, varga, request.point, request.settings);
         const bool byHora = varga == core::kHora && request.settings.horaMethod == 0;
         const int weight = vimshopakaWeight(set, varga);
-        step(explanation, vargaText(varga), L": ",
-             signText(signInVarga(chart, varga, request.point)), L", ",
-             dignityWord(displayDignity(chart, request.point,
-                                        signInVarga(chart, varga, request.point), varga,
-                                        request.settings),
-                         false),
+        const int sign = signInVarga(chart, varga, request.point);
+        const int display = displayDignity(chart, request.point, sign, varga, request.settings);
+        step(explanation, vargaText(varga), L": ", signText(sign), L", ",
+             varga == core::kRashi ? dignityWord(display, false) : codeText(score.dignity),
              byHora ? L", scored by the hora of Sun or Moon as " : L", scored as ",
-             dignityWord(score.code + 3, false), L" = ", score.factor, L" times weight ", weight,
-             L" = ", weight * score.factor);
+             codeText(score.code), L" = ", score.factor, L" times weight ", weight, L" = ",
+             weight * score.factor);
     }
 }
 
@@ -70,6 +67,9 @@ Answer explainVimshopaka(const Request& request)
     addSettings(explanation, request.settings,
                 {"exaltedCountsAsOwn", "horaMethod", "vargaCompoundRelationships",
                  "naturalRelationshipsOnly"});
+    if (!set || vimshopakaLevel(core::kShodashamsha) >= *set) {
+        addPlacementSettings(explanation, request.settings, core::kShodashamsha);
+    }
     if (!chart.computed(request.point)) {
         return notComputed(explanation, whyNoPosition(chart, request.point));
     }

@@ -25,21 +25,6 @@ BodySet setOf(std::initializer_list<int> bodies)
     return set;
 }
 
-// The bodies towards which a planet is naturally friendly (1) or hostile (-1), without itself.
-BodySet naturalRelations(int body, int wanted)
-{
-    BodySet set;
-    if (body > core::kSaturn) {
-        return set;
-    }
-    for (int other = core::kSun; other <= core::kSaturn; ++other) {
-        if (other != body && naturalRelationship(body, other) == wanted) {
-            set.set(std::size_t(other));
-        }
-    }
-    return set;
-}
-
 bool inFifth(const core::Chart& chart, int body)
 {
     return chart.computed(core::kAscendant) &&
@@ -68,6 +53,20 @@ Company companyOf(const core::Chart& chart, const NaturalBenefics& benefic, int 
         company.malefics[slot] = !at(benefic, other);
     }
     return company;
+}
+
+BodySet naturalRelations(int body, int wanted)
+{
+    BodySet set;
+    if (body > core::kSaturn) {
+        return set;
+    }
+    for (int other = core::kSun; other <= core::kSaturn; ++other) {
+        if (other != body && naturalRelationship(body, other) == wanted) {
+            set.set(std::size_t(other));
+        }
+    }
+    return set;
 }
 
 int relationshipToLord(const core::Chart& chart, int body, const core::Settings& settings)

@@ -27,6 +27,10 @@ struct Company
 [[nodiscard]] Company companyOf(const core::Chart& chart, const NaturalBenefics& benefic, int body,
                                 const core::Settings& settings);
 
+/// The bodies towards which a body is by nature friendly (1) or hostile (-1), without itself; the
+/// nodes have none.
+[[nodiscard]] BodySet naturalRelations(int body, int wanted);
+
 /// Relationship code of a body 1 to 9 towards the lord of its sign, also where it is debilitated
 /// there. 3 is the body itself; the nodes have theirs by the sign, with 4 and -3 for exaltation and
 /// debilitation.
