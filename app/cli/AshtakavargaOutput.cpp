@@ -104,7 +104,7 @@ std::wstring ashtakavargaText(const analysis::Ashtakavarga& table)
     addRow(bindus, L"Sarva", table.sarva);
     addRow(bindus, L"Sarva with lagna", table.sarvaWithLagna);
     addRow(bindus, L"Planets there", table.occupants);
-    const std::wstring text = L"Ashtakavarga, " + vargaHeading(table.varga) + L"\n" + bindus.text();
+    std::wstring text = L"Ashtakavarga, " + vargaHeading(table.varga) + L"\n" + bindus.text();
     if (!table.reduced) {
         return text;
     }

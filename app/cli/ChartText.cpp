@@ -238,15 +238,15 @@ std::wstring housesText(const ComputedChart& computed)
         }
         table.add(std::move(cells));
     }
-    const auto degreesOr = [&](std::wstring text) {
-        return chart.hasMoment ? std::move(text) : kNotComputedText;
+    const auto ifMoment = [&](const std::wstring& text) {
+        return chart.hasMoment ? text : kNotComputedText;
     };
     const bool hasCusps = chart.houseSystem >= 0;
     LabelledLines lines;
     lines.add(L"House system", hasCusps ? houseSystemName(chart) : kNotComputedText);
     lines.add(L"Ascendant", core::FormatSignPosition(chart.longitude[core::kAscendant]));
-    lines.add(L"Midheaven", degreesOr(core::FormatSignPosition(chart.midheaven)));
-    lines.add(L"Obliquity", degreesOr(core::FormatDMS(chart.obliquity() * kDegreesPerRadian, 1)));
+    lines.add(L"Midheaven", ifMoment(core::FormatSignPosition(chart.midheaven)));
+    lines.add(L"Obliquity", ifMoment(core::FormatDMS(chart.obliquity() * kDegreesPerRadian, 1)));
     if (!hasCusps) {
         return lines.text();
     }

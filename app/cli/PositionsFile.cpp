@@ -102,7 +102,7 @@ Result<GivenPosition> readPosition(const Json& entry, int point)
 
 Result<void> readEntry(const Json& entry, GivenPositions& positions)
 {
-    if (const Result<void> keys = checkKeys(entry, {"index", "longitude", "retrograde"}); !keys) {
+    if (Result<void> keys = checkKeys(entry, {"index", "longitude", "retrograde"}); !keys) {
         return keys;
     }
     const Result<int> index = readIndex(entry);

@@ -197,6 +197,7 @@ std::wstring sahamsText(const ComputedChart& computed)
 {
     const auto longitudes = analysis::sahams(computed.chart);
     std::vector<Entry> entries;
+    entries.reserve(longitudes.size());
     for (int saham = 0; saham < analysis::kSahamCount; ++saham) {
         entries.emplace_back(at(analysis::sahamNames(), saham), at(longitudes, saham));
     }

@@ -200,8 +200,7 @@ std::wstring shayanadiCell(const std::optional<analysis::ShayanadiState>& state)
 
 std::wstring aspectCell(const analysis::Aspect& aspect)
 {
-    const std::wstring marks =
-        std::wstring(aspect.graha ? L"f" : L"") + (aspect.rashi ? L"s" : L"");
+    std::wstring marks = std::wstring(aspect.graha ? L"f" : L"") + (aspect.rashi ? L"s" : L"");
     if (!aspect.value || (*aspect.value == 0.0 && marks.empty())) {
         return marks;
     }
