@@ -1,18 +1,22 @@
 // How long it takes to list a large database, and to rebuild its research data beside computing the
 // sky alone.
-#include "data/BirthTexts.h"
+#include "analysis/ComputeChart.h"
+#include "astro/DataFile.h"
 #include "data/ChartDatabase.h"
 #include "data/ChartLine.h"
 #include "data/Chooser.h"
+#include "data/ResearchRebuild.h"
 
 #include <benchmark/benchmark.h>
 
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <random>
 #include <string>
 #include <unistd.h>
+#include <vector>
 
 namespace
 {
@@ -141,9 +145,96 @@ void formatChartLine(benchmark::State& state)
     }
 }
 
+const astro::Series& series()
+{
+    static const astro::LoadResult kLoaded = astro::LoadSeries();
+    if (!kLoaded.data) {
+        std::fprintf(stderr, "%s\n", kLoaded.error.text().c_str());
+        std::exit(1);
+    }
+    return kLoaded.data->series;
+}
+
+// Nobody to talk to: the database has no damaged lines.
+class NoMessages : public core::Messages
+{
+public:
+    core::Answer show(const std::wstring&, const std::wstring&, core::Buttons) override
+    {
+        return core::Answer::Cancel;
+    }
+};
+
+constexpr int kRebuiltCharts = 20'000;
+
+// Charts of the rebuild, parsed.
+std::vector<core::Chart> parsedCharts()
+{
+    data::ChartDatabase database = randomDatabase(1000);
+    std::vector<core::Chart> charts(database.size());
+    for (std::size_t i = 0; i < charts.size(); ++i) {
+        database.read(i, charts[i]);
+    }
+    return charts;
+}
+
+// What the charts of the rebuild cost without anything around: positions and houses only.
+void skyAlone(benchmark::State& state)
+{
+    std::vector<core::Chart> charts = parsedCharts();
+    astro::EphemerisContext context(series());
+    const core::Settings settings;
+    std::size_t next = 0;
+    for (auto _ : state) {
+        core::Chart& chart = charts[next++ % charts.size()];
+        analysis::computePositions(chart, settings, context);
+        analysis::computeHouses(chart, settings);
+        benchmark::DoNotOptimize(chart.longitude.data());
+    }
+}
+
+// A whole chart with motions and the running day, as every research line needs it.
+void wholeChartAlone(benchmark::State& state)
+{
+    std::vector<core::Chart> charts = parsedCharts();
+    astro::EphemerisContext context(series());
+    const core::Settings settings;
+    std::size_t next = 0;
+    for (auto _ : state) {
+        core::Chart& chart = charts[next++ % charts.size()];
+        analysis::ComputeChart(chart, settings, context);
+        benchmark::DoNotOptimize(chart.longitude.data());
+    }
+}
+
+void rebuildResearch(benchmark::State& state)
+{
+    data::ChartDatabase database = randomDatabase(kRebuiltCharts);
+    const core::Settings settings;
+    NoMessages messages;
+    const data::LongWork work{{}, nullptr, unsigned(state.range(0))};
+    for (auto _ : state) {
+        const auto lines = data::rebuildResearch(database, settings, series(), messages, work);
+        benchmark::DoNotOptimize(lines->data());
+    }
+    state.SetItemsProcessed(state.iterations() * kRebuiltCharts);
+    state.counters["s/chart"] =
+        benchmark::Counter(double(state.iterations() * kRebuiltCharts),
+                           benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+}
+
 BENCHMARK(openAMillion)->Unit(benchmark::kMillisecond);
 BENCHMARK(openAndListAMillion)->ArgName("namesOnly")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(sortAMillionByName)->Unit(benchmark::kMillisecond);
+BENCHMARK(skyAlone)->Unit(benchmark::kMicrosecond);
+BENCHMARK(wholeChartAlone)->Unit(benchmark::kMicrosecond);
+BENCHMARK(rebuildResearch)
+    ->ArgName("threads")
+    ->Arg(1)
+    ->Arg(2)
+    ->Unit(benchmark::kMillisecond)
+    ->MeasureProcessCPUTime()
+    ->UseRealTime();
 BENCHMARK(parseChartLine)->Unit(benchmark::kMicrosecond);
 BENCHMARK(formatChartLine)->Unit(benchmark::kMicrosecond);
 

@@ -51,30 +51,6 @@ WrittenDate readDate(FieldReader& fields)
     return date;
 }
 
-ChooserRow readRow(std::string_view line, DateOrder& order, bool namesOnly)
-{
-    FieldReader fields(line);
-    ChooserRow row;
-    const std::wstring tag = wideField(fields.unquoted(1));
-    row.tag = tag.empty() ? L' ' : tag.front();
-    fields.skipText(1);
-    row.name = readName(fields);
-    const std::string_view sex = fields.text(kSexLength);
-    row.sex = sex == "M" || sex == "F" ? sex.front() : ' ';
-    if (namesOnly) {
-        return row;
-    }
-    row.code = fields.text(kCodeLength);
-    const WrittenDate date = readDate(fields);
-    row.time = fields.text(kTimeLength);
-    fields.skipText(kFieldsBeforeNotes);
-    fields.part(0);
-    fields.lastPart(0);
-    fields.skipText(1);
-    row.date = date.in(orderOfLine(fields.part(kOrderCodeLength), date, order));
-    return row;
-}
-
 template <typename Keep>
 std::vector<std::size_t> filtered(const ChooserList& list, Keep keep)
 {
@@ -127,6 +103,30 @@ std::vector<std::size_t> linkedToPrimary(const ChooserList& list)
 
 } // namespace
 
+ChooserRow chooserRow(std::string_view line, DateOrder& order, bool namesOnly)
+{
+    FieldReader fields(line);
+    ChooserRow row;
+    const std::wstring tag = wideField(fields.unquoted(1));
+    row.tag = tag.empty() ? L' ' : tag.front();
+    fields.skipText(1);
+    row.name = readName(fields);
+    const std::string_view sex = fields.text(kSexLength);
+    row.sex = sex == "M" || sex == "F" ? sex.front() : ' ';
+    if (namesOnly) {
+        return row;
+    }
+    row.code = fields.text(kCodeLength);
+    const WrittenDate date = readDate(fields);
+    row.time = fields.text(kTimeLength);
+    fields.skipText(kFieldsBeforeNotes);
+    fields.part(0);
+    fields.lastPart(0);
+    fields.skipText(1);
+    row.date = date.in(orderOfLine(fields.part(kOrderCodeLength), date, order));
+    return row;
+}
+
 ChooserList listCharts(ChartDatabase& database, bool namesOnly)
 {
     ChooserList list;
@@ -138,7 +138,7 @@ ChooserList listCharts(ChartDatabase& database, bool namesOnly)
             list.tooShort.push_back(i);
             continue;
         }
-        ChooserRow& row = list.rows.emplace_back(readRow(line, order, namesOnly));
+        ChooserRow& row = list.rows.emplace_back(chooserRow(line, order, namesOnly));
         row.line = i;
         list.nameWidth = std::max(list.nameWidth, countCharacters(row.name));
     }

@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace kestrav::data
@@ -30,6 +31,10 @@ struct ChooserList
     std::size_t nameWidth = 0;         ///< characters of the widest name
     std::vector<std::size_t> tooShort; ///< lines that are no chart lines; they have no row
 };
+
+/// What the list shows of one chart line.
+[[nodiscard]] ChooserRow chooserRow(std::string_view line, DateOrder& order,
+                                    bool namesOnly = false);
 
 /// Reads what the list shows of every line. With `namesOnly` dates, times and codes are left out,
 /// which is faster. The date order in force may be flipped by lines without an order.
