@@ -215,6 +215,21 @@ int reportDignity(const core::Chart& chart, int point, const core::Settings& set
     return at(chart.retrograde, point) ? kDisplayRetrograde : display;
 }
 
+int shownDignity(const core::Chart& chart, int point, int varga, const core::Settings& settings)
+{
+    const int sign = signInVarga(chart, varga, point);
+    if (sign == 0) {
+        return -1;
+    }
+    if (varga == core::kRashi) {
+        return reportDignity(chart, point, settings);
+    }
+    if (vargaDignity(chart, point, sign, varga, settings) == kExalted) {
+        return kDisplayExalted;
+    }
+    return displayDignity(chart, point, sign, varga, settings);
+}
+
 std::wstring_view dignityWord(int displayIndex, bool shortForm)
 {
     if (displayIndex < 0 || displayIndex >= kDisplayCount) {

@@ -52,6 +52,12 @@ void computeCompoundRelationships(core::Chart& chart, const core::Settings& sett
 [[nodiscard]] int reportDignity(const core::Chart& chart, int point,
                                 const core::Settings& settings);
 
+/// Display index of a point in any varga as tables show it: reportDignity in the rashi; elsewhere
+/// displayDignity, but 8 for an exalted point, whose word would otherwise be that of a
+/// moolatrikona. A point that was not computed gives -1.
+[[nodiscard]] int shownDignity(const core::Chart& chart, int point, int varga,
+                               const core::Settings& settings);
+
 /// The condition that cancels the debilitation of a planet 1 to 7 in the rashi, 1 to 6, or 0: (1)
 /// the lord of its sign, (2) the lord of its exaltation sign, (3) the planet exalted in its sign in
 /// a kendra from the ascendant or the Moon; (4) the lord of its sign in it or fully aspecting it;

@@ -156,10 +156,7 @@ Answer explainDignity(const Request& request)
         return notComputed(explanation, whyNoPosition(chart, point));
     }
     const int code = vargaDignity(chart, point, sign, varga, settings);
-    explanation.result =
-        dignityWord(varga == core::kRashi ? reportDignity(chart, point, settings)
-                                          : displayDignity(chart, point, sign, varga, settings),
-                    false);
+    explanation.result = dignityWord(shownDignity(chart, point, varga, settings), false);
     step(explanation, nameOf(point), L" is in ", signText(sign), L"; it is exalted in ",
          signText(exaltationSign(point, settings.nodeDignityScheme)), L" and debilitated in ",
          signText(debilitationSign(point, settings.nodeDignityScheme)));
@@ -171,10 +168,7 @@ Answer explainDignity(const Request& request)
         return explanation;
     }
     if (code == kExalted) {
-        step(explanation, L"so it is in its sign of exaltation",
-             varga == core::kRashi ? L""
-                                   : L", which tables of divisional charts show by the word of "
-                                     L"moolatrikona");
+        step(explanation, L"so it is in its sign of exaltation");
     } else if (point >= core::kDhuma) {
         step(explanation, L"upagrahas have no dignity in other signs");
     } else {

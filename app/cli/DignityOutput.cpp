@@ -19,14 +19,9 @@ namespace
 
 using core::at;
 
-// Display index of a point in a varga; in the rashi that of the reports.
 int displayOf(const ComputedChart& computed, int varga, int point)
 {
-    if (varga == core::kRashi) {
-        return analysis::reportDignity(computed.chart, point, computed.settings);
-    }
-    const int sign = analysis::signInVarga(computed.chart, varga, point);
-    return analysis::displayDignity(computed.chart, point, sign, varga, computed.settings);
+    return analysis::shownDignity(computed.chart, point, varga, computed.settings);
 }
 
 std::wstring word(int display, bool shortForm)

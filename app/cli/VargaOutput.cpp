@@ -75,9 +75,8 @@ std::wstring dignityCell(const ComputedChart& computed, int varga, int point)
     if (point < core::kSun || point > core::kKetu) {
         return {};
     }
-    const int sign = at(at(computed.chart.vargas, varga), point).sign;
     return std::wstring(analysis::dignityWord(
-        analysis::displayDignity(computed.chart, point, sign, varga, computed.settings), false));
+        analysis::shownDignity(computed.chart, point, varga, computed.settings), false));
 }
 
 } // namespace

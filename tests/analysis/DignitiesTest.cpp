@@ -167,6 +167,9 @@ TEST(Dignities, CodesOutsideTheTables)
     EXPECT_EQ(vargaDignity(chart, core::kUranus, 1, core::kRashi, {}), kNeutral);
     EXPECT_EQ(displayDignity(chart, core::kSun, 5, core::kNavamsha, {}), 6); // no band in vargas
     EXPECT_EQ(displayDignity(chart, core::kSun, 1, core::kNavamsha, {}), 7);
+    // The tables of divisional charts do not call an exalted planet moolatrikona.
+    chart.vargas[core::kNavamsha][core::kSun].sign = 1;
+    EXPECT_EQ(shownDignity(chart, core::kSun, core::kNavamsha, {}), kDisplayExalted);
 }
 
 TEST(Dignities, CombustionIsStrictAndEndsAtZeroAries)

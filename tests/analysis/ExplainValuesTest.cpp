@@ -276,10 +276,9 @@ TEST(ExplainValues, DignitiesAndOtherStatesAreThoseOfTheAnalysis)
             }
             EXPECT_EQ(resultOf(chart, query(point, "dignity")),
                       utf8(dignityWord(reportDignity(chart, point, settings), false)));
-            const int sign = signInVarga(chart, core::kNavamsha, point);
-            EXPECT_EQ(resultOf(chart, query(point, "dignity:navamsha")),
-                      utf8(dignityWord(
-                          displayDignity(chart, point, sign, core::kNavamsha, settings), false)));
+            EXPECT_EQ(
+                resultOf(chart, query(point, "dignity:navamsha")),
+                utf8(dignityWord(shownDignity(chart, point, core::kNavamsha, settings), false)));
             EXPECT_THAT(resultOf(chart, query(point, "nature")),
                         HasSubstr("(" + utf8(natureLabel(at(natures, point))) + ")"));
             if (point > core::kSaturn) {
