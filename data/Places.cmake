@@ -13,3 +13,8 @@ foreach(name ${place_files})
             DESTINATION ${CMAKE_INSTALL_DATADIR}/kestrav)
 endforeach()
 add_custom_target(place_lists ALL DEPENDS ${place_outputs})
+
+# Writes atlas files from these lists.
+add_executable(makeatlas ${PROJECT_SOURCE_DIR}/tools/makeatlas.cpp)
+target_link_libraries(makeatlas PRIVATE kestrav_data)
+add_dependencies(makeatlas place_lists)

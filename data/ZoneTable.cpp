@@ -31,8 +31,8 @@ bool validName(std::string_view name)
 
 bool validChange(const ZoneChange& change)
 {
-    return std::abs(change.total) <= kLargestOffset && change.saving >= 0 &&
-           change.saving <= kMostSavingMinutes;
+    return change.total >= -kLargestOffset && change.total <= kLargestOffset &&
+           change.saving >= 0 && change.saving <= kMostSavingMinutes;
 }
 
 } // namespace

@@ -47,7 +47,7 @@ struct LocalTime
 
     /// Hours of the zone east of Greenwich. What saving has beside whole hours is contained in it,
     /// so that zone and whole hours together are the true offset: Singapore's 20 minutes of 1933
-    /// give +7:20, Montevideo's hour and a half in 1968 gives -2:30 and one hour.
+    /// give +7:20, Montevideo's hour and a half of 1974 gives -2:30 and one hour.
     [[nodiscard]] double zoneHours() const
     {
         return (total - savingHours() * kSecondsPerHour) / double(kSecondsPerHour);
