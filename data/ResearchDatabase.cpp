@@ -4,6 +4,7 @@
 #include "core/NumberText.h"
 #include "data/ChartLineFields.h"
 #include "data/DatabaseMessages.h"
+#include "data/DerivedFile.h"
 #include "data/FieldReader.h"
 #include "data/ResearchLine.h"
 
@@ -148,27 +149,6 @@ bool isResearchFile(const fs::path& path)
     return file.eof();
 }
 
-// Replaces a file that can be made again, without keeping the previous one.
-core::Result<void> writeDerived(const fs::path& path, std::string_view text)
-{
-    fs::path fresh = path;
-    fresh += ".new";
-    std::error_code problem;
-    fs::remove(fresh, problem);
-    const core::Result<void> written = core::writeFileSafely(
-        fresh, {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()});
-    if (!written) {
-        return written;
-    }
-    fs::rename(fresh, path, problem);
-    if (problem) {
-        std::error_code ignored;
-        fs::remove(fresh, ignored);
-        return core::Error{"cannot put the new file in place: " + problem.message(), path.string()};
-    }
-    return {};
-}
-
 } // namespace
 
 fs::path researchPath(const fs::path& database)
@@ -206,13 +186,13 @@ core::Result<void> saveResearch(const ChartDatabase& database, const core::Setti
         text += line;
         text += '\n';
     }
-    const core::Result<void> written = writeDerived(path, text);
+    const core::Result<void> written = writeDerivedFile(path, text);
     if (!written) {
         return written;
     }
     Print print = printOf(database, settings);
     print.size = sizeText(path);
-    return writeDerived(printPath, print.text());
+    return writeDerivedFile(printPath, print.text());
 }
 
 ResearchState researchState(const ChartDatabase& database, const core::Settings& settings)
