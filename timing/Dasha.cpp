@@ -8,7 +8,6 @@
 #include "timing/SignDashas.h"
 #include "timing/TithiDasha.h"
 
-#include <cmath>
 #include <optional>
 #include <string>
 
@@ -17,8 +16,6 @@ namespace kestrav::timing
 
 namespace
 {
-
-using core::at;
 
 constexpr int kLongName = 4;
 
@@ -55,6 +52,9 @@ double passedPart(const core::Chart& chart, const core::Settings& settings,
 core::Result<DashaPlan> nakshatraPlan(const core::Chart& chart, const core::Settings& settings,
                                       const DashaOptions& options, const astro::Series& series)
 {
+    if (options.startPoint < core::kAscendant || options.startPoint > kAdhanaStart) {
+        return core::Error{"there is no start point " + std::to_string(options.startPoint)};
+    }
     const std::optional<double> position = startPosition(chart, options.startPoint);
     if (!position) {
         return missing(options.startPoint > core::kKetu ? int(core::kMoon) : options.startPoint);

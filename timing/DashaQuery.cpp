@@ -71,4 +71,12 @@ int lordAtMoment(const Dasha& dasha, double julianDay, int level, int offset)
     return lordAtAge(dasha, dasha.calendar.ageAt(julianDay), level, offset);
 }
 
+int lordAtMoment(const core::Chart& chart, const core::Settings& settings,
+                 const DashaOptions& options, const astro::Series& series, double julianDay,
+                 int level, int offset)
+{
+    const core::Result<Dasha> dasha = dashaOf(chart, settings, options, series);
+    return dasha ? lordAtMoment(dasha.value(), julianDay, level, offset) : kNoLord;
+}
+
 } // namespace kestrav::timing

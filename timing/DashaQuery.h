@@ -24,6 +24,12 @@ inline constexpr int kNoLord = -1;
 /// says. Levels above 4 answer for 4. -1 when no period runs or the chart has no moment.
 [[nodiscard]] int lordAtMoment(const Dasha& dasha, double julianDay, int level, int offset = 0);
 
+/// The same for a chart, whose dasha is planned for this one answer; -1 also when that fails. Who
+/// asks more than once makes the dasha himself.
+[[nodiscard]] int lordAtMoment(const core::Chart& chart, const core::Settings& settings,
+                               const DashaOptions& options, const astro::Series& series,
+                               double julianDay, int level, int offset = 0);
+
 /// The same for an age in years.
 [[nodiscard]] int lordAtAge(const Dasha& dasha, double age, int level, int offset = 0);
 

@@ -3,7 +3,6 @@
 #include "core/PointNames.h"
 #include "core/Points.h"
 
-#include <cmath>
 #include <cstddef>
 
 namespace kestrav::timing

@@ -19,7 +19,9 @@ struct SiderealPlace
     double speed;     ///< degrees a day
 };
 
-/// Positions as a chart has them at the moment: the same series, Delta T and ayanamsa.
+/// Positions as a chart has them at the moment: the same series, Delta T and ayanamsa. Every answer
+/// is computed anew from the series, so one object may serve several threads and a dasha can be
+/// asked from anywhere; long searches have SiderealSky.
 class SunAndMoonAt
 {
 public:
