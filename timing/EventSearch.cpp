@@ -1,6 +1,7 @@
 #include "timing/EventSearch.h"
 
 #include <cmath>
+#include <cstdint>
 
 namespace kestrav::timing
 {
@@ -43,20 +44,21 @@ public:
     bool run(Span span, FunctionRef<bool(const Stretch&)> visit,
              FunctionRef<void(const Sample&, bool)> turn) const
     {
-        const double steps = std::ceil((span.to - span.from) / shape_.step);
-        if (!(shape_.step > 0.0) || !(steps >= 1.0) || !(steps < kMostSteps)) {
+        const double wholeSteps = std::ceil((span.to - span.from) / shape_.step);
+        if (!(shape_.step > 0.0) || !(wholeSteps >= 1.0) || !(wholeSteps < kMostSteps)) {
             return true;
         }
-        const double step = (span.to - span.from) / steps;
-        const auto dayAt = [&](double i) {
-            return i == steps ? span.to : span.from + i * step;
+        const auto steps = std::int64_t(wholeSteps);
+        const double step = (span.to - span.from) / wholeSteps;
+        const auto dayAt = [&](std::int64_t i) {
+            return i == steps ? span.to : span.from + double(i) * step;
         };
         Sample here = first(span.from);
-        Sample next = after(here, dayAt(1.0));
-        Sample before = shape_.monotone ? here : after(here, dayAt(-1.0));
-        for (double i = 0.0; i < steps; ++i) {
-            const bool last = i + 1.0 == steps;
-            const Sample beyond = shape_.monotone && last ? next : after(next, dayAt(i + 2.0));
+        Sample next = after(here, dayAt(1));
+        Sample before = shape_.monotone ? here : after(here, dayAt(-1));
+        for (std::int64_t i = 0; i < steps; ++i) {
+            const bool last = i + 1 == steps;
+            const Sample beyond = shape_.monotone && last ? next : after(next, dayAt(i + 2));
             if (!visitStep(before, here, next, beyond, visit, turn)) {
                 return false;
             }
@@ -119,36 +121,36 @@ public:
     Ladder(const CurveShape& shape, Levels levels)
         : wrap_(shape.wrap), first_(levels.first),
           spacing_(levels.spacing > 0.0 ? levels.spacing : shape.wrap),
-          perTurn_(wrap_ > 0.0 ? std::round(wrap_ / spacing_) : 0.0)
+          perTurn_(wrap_ > 0.0 ? std::llround(wrap_ / spacing_) : 0)
     {}
 
     // The number of the last level at or below the value. It follows from the value as the curve
     // gave it, so that two searches that meet in one moment agree about it.
-    [[nodiscard]] double rung(const Sample& sample) const
+    [[nodiscard]] std::int64_t rung(const Sample& sample) const
     {
         if (!(spacing_ > 0.0)) {
-            return sample.raw >= first_ ? 0.0 : -1.0;
+            return sample.raw >= first_ ? 0 : -1;
         }
-        const double inTurn = std::floor((sample.raw - first_) / spacing_);
-        return wrap_ > 0.0 ? inTurn + perTurn_ * std::round((sample.value - sample.raw) / wrap_)
+        const auto inTurn = std::int64_t(std::floor((sample.raw - first_) / spacing_));
+        return wrap_ > 0.0 ? inTurn + perTurn_ * std::llround((sample.value - sample.raw) / wrap_)
                            : inTurn;
     }
 
-    [[nodiscard]] double valueOf(double rung) const
+    [[nodiscard]] double valueOf(std::int64_t rung) const
     {
-        return first_ + (spacing_ > 0.0 ? rung * spacing_ : 0.0);
+        return first_ + (spacing_ > 0.0 ? double(rung) * spacing_ : 0.0);
     }
 
-    [[nodiscard]] int levelOf(double rung) const
+    [[nodiscard]] int levelOf(std::int64_t rung) const
     {
-        return int(perTurn_ > 0.0 ? rung - perTurn_ * std::floor(rung / perTurn_) : rung);
+        return int(perTurn_ > 0 ? (rung % perTurn_ + perTurn_) % perTurn_ : rung);
     }
 
 private:
     double wrap_;
     double first_;
     double spacing_;
-    double perTurn_;
+    std::int64_t perTurn_;
 };
 
 } // namespace
@@ -202,13 +204,15 @@ bool forEachCrossing(Curve curve, const CurveShape& shape, Span span, Levels lev
 {
     const Ladder ladder(shape, levels);
     const auto inStretch = [&](const Stretch& stretch) {
-        const double from = ladder.rung(stretch.begin);
-        const double to = ladder.rung(stretch.end);
+        if (!std::isfinite(stretch.begin.raw) || !std::isfinite(stretch.end.raw)) {
+            return true;
+        }
+        const std::int64_t from = ladder.rung(stretch.begin);
+        const std::int64_t to = ladder.rung(stretch.end);
         const bool rising = to > from;
-        const double toward = rising ? 1.0 : -1.0;
         // Rising, the first level met is the one above; falling, the one that was last passed.
-        for (double rung = from; rung != to; rung += toward) {
-            const double level = rising ? rung + 1.0 : rung;
+        for (std::int64_t rung = from; rung != to; rung += rising ? 1 : -1) {
+            const std::int64_t level = rising ? rung + 1 : rung;
             const double value = ladder.valueOf(level);
             const auto distance = [&](double day) {
                 return difference(curve(day), value, shape.wrap);

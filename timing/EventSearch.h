@@ -72,7 +72,8 @@ struct TurningPoint
 /// after, so spans laid end to end find every crossing exactly once. A curve that touches a level
 /// from below without passing it gives a rising and a falling crossing of nearly the same moment;
 /// one that touches it from above gives none.
-/// A step or a span that is not finite, or a step that is not above 0, finds nothing.
+/// A step or a span that is not finite, or a step that is not above 0, finds nothing, nor does a
+/// stretch where the curve is no number.
 bool forEachCrossing(Curve curve, const CurveShape& shape, Span span, Levels levels,
                      FunctionRef<bool(const Crossing&)> visit);
 

@@ -19,11 +19,11 @@ template <typename Result, typename... Arguments>
 class FunctionRef<Result(Arguments...)>
 {
 public:
-    template <typename Callable>
-    requires(!std::is_same_v<std::remove_cvref_t<Callable>, FunctionRef> &&
-             std::is_object_v<std::remove_reference_t<Callable>> &&
-             std::is_invocable_r_v<Result, Callable&, Arguments...>)
-        FunctionRef(Callable&& callable)
+    template <typename Callable, typename = std::enable_if_t<
+                                     !std::is_same_v<std::remove_cvref_t<Callable>, FunctionRef> &&
+                                     std::is_object_v<std::remove_reference_t<Callable>> &&
+                                     std::is_invocable_r_v<Result, Callable&, Arguments...>>>
+    FunctionRef(Callable&& callable)
         : object_(const_cast<void*>(static_cast<const void*>(std::addressof(callable)))),
           call_([](void* object, Arguments... arguments) -> Result {
               return std::invoke(*static_cast<std::remove_reference_t<Callable>*>(object),
