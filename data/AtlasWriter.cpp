@@ -68,6 +68,7 @@ std::vector<std::uint32_t> sortedPlaces(const Places& places, bool unitedStates)
     }
     std::sort(keyed.begin(), keyed.end());
     std::vector<std::uint32_t> order;
+    order.reserve(keyed.size());
     for (const auto& [key, place] : keyed) {
         order.push_back(place);
     }

@@ -23,7 +23,7 @@ inline constexpr std::string_view kFoldFrom00C0 =
     "a a a a e e e e i i i i o o o o r r r r u u u u s s t t     h h "
     "            a a e e o o o o o o o o y y                         "
     "      b u                       ";
-static_assert(kFoldFrom00C0.size() == 2 * 0x190);
+static_assert(kFoldFrom00C0.size() == 800);
 
 /// From U+1E00 on.
 inline constexpr std::string_view kFoldFrom1E00 =
@@ -35,7 +35,7 @@ inline constexpr std::string_view kFoldFrom1E00 =
     "a a a a a a a a a a a a a a a a a a a a a a a a e e e e e e e e "
     "e e e e e e e e i i i i o o o o o o o o o o o o o o o o o o o o "
     "o o o o u u u u u u u u u u u u u u y y y y y y y y             ";
-static_assert(kFoldFrom1E00.size() == 2 * 0x100);
+static_assert(kFoldFrom1E00.size() == 512);
 
 // clang-format on
 

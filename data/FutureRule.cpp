@@ -158,7 +158,8 @@ UnixSeconds FutureRule::moment(const Day& day, std::int64_t year)
         day.month == 12 ? daysFromCivil(year + 1, 1, 1) : daysFromCivil(year, day.month + 1, 1);
     // 1970 January 1 was a Thursday.
     const std::int64_t weekdayOfFirst = ((first + 4) % 7 + 7) % 7;
-    std::int64_t date = first + (day.weekday - weekdayOfFirst + 7) % 7 + 7 * (day.week - 1);
+    const std::int64_t week = day.week - 1;
+    std::int64_t date = first + (day.weekday - weekdayOfFirst + 7) % 7 + 7 * week;
     while (date >= next) {
         date -= 7;
     }

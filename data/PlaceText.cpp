@@ -41,9 +41,9 @@ public:
         if (code < 0x80) {
             addAscii(static_cast<char>(code));
         } else if (code >= kLatinFirst && code < kLatinEnd) {
-            addLetters(kFoldFrom00C0.substr(2 * (code - kLatinFirst), 2), code);
+            addLetters(kFoldFrom00C0, code - kLatinFirst, code);
         } else if (code >= kLatinMoreFirst && code < kLatinMoreEnd) {
-            addLetters(kFoldFrom1E00.substr(2 * (code - kLatinMoreFirst), 2), code);
+            addLetters(kFoldFrom1E00, code - kLatinMoreFirst, code);
         } else if (partsWords(code)) {
             gap_ = true;
         } else if ((code >= 0x391 && code <= 0x3A9) || (code >= 0x410 && code <= 0x42F)) {
@@ -79,8 +79,9 @@ private:
         text_ += static_cast<char>(capital ? character + ('a' - 'A') : character);
     }
 
-    void addLetters(std::string_view letters, std::uint32_t code)
+    void addLetters(std::string_view table, std::size_t entry, std::uint32_t code)
     {
+        const std::string_view letters = table.substr(2 * entry, 2);
         if (letters[0] == ' ') {
             addCode(code);
             return;

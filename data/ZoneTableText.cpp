@@ -64,8 +64,8 @@ bool readMoment(std::string_view text, UnixSeconds& moment)
         minute > 59 || second > 59) {
         return false;
     }
-    moment = daysFromCivil(year, month, day) * kSecondsPerDay + hour * kSecondsPerHour +
-             minute * 60 + second;
+    const int clock = (hour * 60 + minute) * 60 + second;
+    moment = daysFromCivil(year, month, day) * kSecondsPerDay + clock;
     return true;
 }
 

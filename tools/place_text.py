@@ -56,7 +56,7 @@ def main():
             cells = "".join(f"{base_letters(code):<2}" for code in range(start, min(start + 32, high)))
             rows.append(f'    "{cells}"')
         print("\n".join(rows) + ";")
-        print(f"static_assert(kFoldFrom{low:04X}.size() == 2 * 0x{high - low:X});\n")
+        print(f"static_assert(kFoldFrom{low:04X}.size() == {2 * (high - low)});\n")
     print("// clang-format on\n\n} // namespace kestrav::data")
 
 
