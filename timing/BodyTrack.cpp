@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <span>
 
 namespace kestrav::timing
 {
@@ -16,32 +15,11 @@ namespace kestrav::timing
 namespace
 {
 
-constexpr std::size_t kSlots = 1024; // pieces of one body that are kept
+constexpr std::size_t kSlots = 2048; // pieces of one body that are kept
 constexpr double kFurthestDay = 1e8; // of any use, and safe as a whole number
 
-// Days of one piece: the longest power of two with which degree 14 follows the body within 0.0003
-// arc seconds. The faster planets and the Sun are held back by the month in the Earth's motion.
-double pieceLength(int point)
-{
-    switch (point) {
-    case core::kMoon:
-        return 8.0;
-    case core::kSun:
-    case core::kMercury:
-    case core::kVenus:
-    case core::kMars:
-        return 16.0;
-    case core::kRahu:
-        return 128.0;
-    default:
-        return 32.0;
-    }
-}
-
-bool isTracked(int point)
-{
-    return std::find(core::kBodies.begin(), core::kBodies.end(), point) != core::kBodies.end();
-}
+// The light time of one astronomical unit is 0.00578 days.
+constexpr double kHalfLightTime = 0.0029;
 
 struct ValueAndSlope
 {
@@ -49,12 +27,12 @@ struct ValueAndSlope
     double slope;
 };
 
-// Clenshaw's recurrence.
-double chebyshev(std::span<const double> coefficients, double x)
+// Clenshaw's recurrence. The coefficients run up to the degree.
+double chebyshev(const double* coefficients, std::size_t degree, double x)
 {
     double b1 = 0.0;
     double b2 = 0.0;
-    for (std::size_t k = coefficients.size() - 1; k > 0; --k) {
+    for (std::size_t k = degree; k > 0; --k) {
         const double b = 2.0 * x * b1 - b2 + coefficients[k];
         b2 = b1;
         b1 = b;
@@ -63,13 +41,13 @@ double chebyshev(std::span<const double> coefficients, double x)
 }
 
 // The same with its derivative carried along.
-ValueAndSlope chebyshevWithSlope(std::span<const double> coefficients, double x)
+ValueAndSlope chebyshevWithSlope(const double* coefficients, std::size_t degree, double x)
 {
     double b1 = 0.0;
     double b2 = 0.0;
     double d1 = 0.0;
     double d2 = 0.0;
-    for (std::size_t k = coefficients.size() - 1; k > 0; --k) {
+    for (std::size_t k = degree; k > 0; --k) {
         const double b = 2.0 * x * b1 - b2 + coefficients[k];
         const double d = 2.0 * x * d1 - d2 + 2.0 * b1;
         b2 = b1;
@@ -86,6 +64,59 @@ BodyTrack::BodyTrack(const astro::Series& series, bool preciseMoon)
     : context_(series), preciseMoon_(preciseMoon)
 {}
 
+// Measured: with these the polynomials follow the series within 0.0005 arc seconds. Sun and planets
+// are held back by the month in the Earth's motion.
+BodyTrack::Grid BodyTrack::gridOf(int point)
+{
+    switch (point) {
+    case core::kMoon:
+        return {16.0, 20};
+    case core::kSun:
+        return {32.0, 16};
+    case core::kMercury:
+        return {16.0, 14};
+    case core::kVenus:
+    case core::kMars:
+    case kEarth:
+        return {32.0, 18};
+    case core::kRahu:
+        return {128.0, 6};
+    case core::kPluto:
+        return {64.0, 14};
+    default:
+        return {32.0, 14};
+    }
+}
+
+bool BodyTrack::isKnown(int point, double day)
+{
+    return std::find(core::kBodies.begin(), core::kBodies.end(), point) != core::kBodies.end() &&
+           std::fabs(day) < kFurthestDay;
+}
+
+// Sets the context to a moment and gives it the Earth, so that a planet does not compute it again.
+// The rates are those in the middle of the light time that the engine takes them over.
+void BodyTrack::setTimeWithEarth(double day)
+{
+    // What is asked of the Earth's pieces may set the context to other moments.
+    const Place here = placeOf(kEarth, day);
+    const Place before = placeOf(kEarth, day - kHalfLightTime);
+    context_.setTime(core::timeArguments(day / core::kDaysPerCentury));
+    const auto value = [&](const Coefficients& coefficients) {
+        return chebyshev(coefficients.data(), here.grid.degree, here.x);
+    };
+    context_.earth = {value(here.piece->longitude), value(here.piece->latitude),
+                      value(here.piece->distance)};
+    const auto rate = [&](const Coefficients& coefficients) {
+        return chebyshevWithSlope(coefficients.data(), before.grid.degree, before.x).slope * 2.0 /
+               before.grid.length;
+    };
+    context_.earthRates = {rate(before.piece->longitude), rate(before.piece->latitude),
+                           rate(before.piece->distance)};
+    context_.earthKnown = true;
+}
+
+// Degrees and astronomical units; radians for the Earth.
 BodyTrack::Raw BodyTrack::fromSeries(int point, double day)
 {
     const core::TimeArguments time = core::timeArguments(day / core::kDaysPerCentury);
@@ -100,43 +131,53 @@ BodyTrack::Raw BodyTrack::fromSeries(int point, double day)
         const astro::MoonPosition moon = astro::preciseMoon(time.T);
         return {moon.longitude, moon.latitude * core::kDegreesPerRadian, moon.distance};
     }
-    context_.setTime(time);
+    if (point == kEarth) {
+        context_.setTime(time);
+        astro::HeliocentricPosition earth;
+        context_.t = time.fromJ2000 / 10.0;
+        astro::SumSeries(context_, astro::kCodeSun, earth);
+        return {earth.L, earth.B, earth.R};
+    }
+    if (point == core::kSun) {
+        context_.setTime(time);
+    } else {
+        setTimeWithEarth(day);
+    }
     astro::PlanetPosition(context_, astro::codeOfPoint(point));
     const astro::BodyResult& body = context_.result;
     return {body.longitude, body.latitude * core::kDegreesPerRadian, body.distance};
 }
 
-void BodyTrack::build(Piece& piece, int point, double start, double length)
+void BodyTrack::build(Piece& piece, int point, double start, const Grid& grid)
 {
     // Samples at the extrema of the last polynomial, which include both ends, so that neighbouring
     // pieces meet.
-    static const std::array<double, 2 * std::size_t(kDegree)> kCosines = [] {
-        std::array<double, 2 * std::size_t(kDegree)> values{};
-        for (std::size_t i = 0; i < values.size(); ++i) {
-            values[i] = std::cos(core::kPi * double(i) / kDegree);
-        }
-        return values;
-    }();
-    std::array<Raw, kCoefficients> samples{};
-    for (std::size_t j = 0; j < kCoefficients; ++j) {
-        samples[j] = fromSeries(point, start + length * (kCosines[j] + 1.0) / 2.0);
+    const std::size_t degree = grid.degree;
+    std::array<double, 2 * kMostCoefficients> cosines{};
+    for (std::size_t i = 0; i < 2 * degree; ++i) {
+        cosines[i] = std::cos(core::kPi * double(i) / double(degree));
+    }
+    const double turn = point == kEarth ? core::kTwoPi : 360.0;
+    std::array<Raw, kMostCoefficients> samples{};
+    for (std::size_t j = 0; j <= degree; ++j) {
+        samples[j] = fromSeries(point, start + grid.length * (cosines[j] + 1.0) / 2.0);
         if (j == 0) {
-            samples[j].longitude = core::Normalize360(samples[j].longitude);
+            samples[j].longitude = core::NormalizeMod(turn, samples[j].longitude);
         } else {
             const double before = samples[j - 1].longitude;
-            samples[j].longitude = before + std::remainder(samples[j].longitude - before, 360.0);
+            samples[j].longitude = before + std::remainder(samples[j].longitude - before, turn);
         }
     }
-    for (std::size_t k = 0; k < kCoefficients; ++k) {
+    for (std::size_t k = 0; k <= degree; ++k) {
         Raw sum{0.0, 0.0, 0.0};
-        for (std::size_t j = 0; j < kCoefficients; ++j) {
-            const double half = j == 0 || j == kDegree ? 0.5 : 1.0;
-            const double weight = half * kCosines[(j * k) % kCosines.size()];
+        for (std::size_t j = 0; j <= degree; ++j) {
+            const double half = j == 0 || j == degree ? 0.5 : 1.0;
+            const double weight = half * cosines[(j * k) % (2 * degree)];
             sum.longitude += weight * samples[j].longitude;
             sum.latitude += weight * samples[j].latitude;
             sum.distance += weight * samples[j].distance;
         }
-        const double scale = (k == 0 || k == kDegree ? 1.0 : 2.0) / kDegree;
+        const double scale = (k == 0 || k == degree ? 1.0 : 2.0) / double(degree);
         piece.longitude[k] = scale * sum.longitude;
         piece.latitude[k] = scale * sum.latitude;
         piece.distance[k] = scale * sum.distance;
@@ -145,11 +186,8 @@ void BodyTrack::build(Piece& piece, int point, double start, double length)
 
 BodyTrack::Place BodyTrack::placeOf(int point, double day)
 {
-    if (!isTracked(point) || !(std::fabs(day) < kFurthestDay)) {
-        return {};
-    }
-    const double length = pieceLength(point);
-    const double cell = std::floor(day / length);
+    const Grid grid = gridOf(point);
+    const double cell = std::floor(day / grid.length);
     const auto index = std::int64_t(cell);
     std::vector<std::unique_ptr<Piece>>& slots = core::at(pieces_, point);
     slots.resize(kSlots);
@@ -161,38 +199,43 @@ BodyTrack::Place BodyTrack::placeOf(int point, double day)
     }
     if (slot->index != index) {
         slot->index = index;
-        build(*slot, point, cell * length, length);
+        build(*slot, point, cell * grid.length, grid);
     }
-    return {slot.get(), (day / length - cell) * 2.0 - 1.0};
+    return {slot.get(), grid, (day / grid.length - cell) * 2.0 - 1.0};
 }
 
 double BodyTrack::longitude(int point, double day)
 {
+    if (!isKnown(point, day)) {
+        return core::kNotANumber;
+    }
     if (point == core::kKetu) {
         return core::Normalize360(longitude(core::kRahu, day) + 180.0);
     }
     const Place place = placeOf(point, day);
-    return place.piece == nullptr ? core::kNotANumber
-                                  : core::Normalize360(chebyshev(place.piece->longitude, place.x));
+    return core::Normalize360(chebyshev(place.piece->longitude.data(), place.grid.degree, place.x));
 }
 
 TrackedPosition BodyTrack::position(int point, double day)
 {
+    if (!isKnown(point, day)) {
+        constexpr double kNone = core::kNotANumber;
+        return {kNone, kNone, kNone, kNone, kNone};
+    }
     if (point == core::kKetu) {
         TrackedPosition node = position(core::kRahu, day);
         node.longitude = core::Normalize360(node.longitude + 180.0);
         return node;
     }
     const Place place = placeOf(point, day);
-    if (place.piece == nullptr) {
-        constexpr double kNone = core::kNotANumber;
-        return {kNone, kNone, kNone, kNone, kNone};
-    }
-    const double perDay = 2.0 / pieceLength(point);
-    const ValueAndSlope longitude = chebyshevWithSlope(place.piece->longitude, place.x);
-    const ValueAndSlope latitude = chebyshevWithSlope(place.piece->latitude, place.x);
+    const std::size_t degree = place.grid.degree;
+    const double perDay = 2.0 / place.grid.length;
+    const ValueAndSlope longitude =
+        chebyshevWithSlope(place.piece->longitude.data(), degree, place.x);
+    const ValueAndSlope latitude =
+        chebyshevWithSlope(place.piece->latitude.data(), degree, place.x);
     return {core::Normalize360(longitude.value), latitude.value,
-            chebyshev(place.piece->distance, place.x), longitude.slope * perDay,
+            chebyshev(place.piece->distance.data(), degree, place.x), longitude.slope * perDay,
             latitude.slope * perDay};
 }
 

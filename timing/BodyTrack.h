@@ -28,8 +28,8 @@ struct TrackedPosition
 /// latitudes agree with the series within 0.001 arc seconds (the rounding of a moment included), so
 /// a search costs a few polynomials a step. The pieces lie on a fixed grid of time: what was asked
 /// before never changes a result.
-/// An object belongs to one thread. It holds up to 11 x 1024 pieces, 4.5 megabytes, and then
-/// replaces old ones.
+/// An object belongs to one thread. It holds up to 12 x 2048 pieces, 13 megabytes, and then
+/// replaces old ones: a century of most bodies.
 class BodyTrack
 {
 public:
@@ -46,9 +46,18 @@ public:
     [[nodiscard]] TrackedPosition position(int point, double day);
 
 private:
-    static constexpr int kDegree = 14;
-    static constexpr std::size_t kCoefficients = kDegree + 1;
-    using Coefficients = std::array<double, kCoefficients>;
+    static constexpr std::size_t kMostCoefficients = 21;
+    using Coefficients = std::array<double, kMostCoefficients>;
+
+    // The heliocentric Earth has pieces of its own, for every planet needs it.
+    static constexpr int kEarth = core::kPluto + 1;
+
+    // How the time of a body is cut, and the degree of its polynomials.
+    struct Grid
+    {
+        double length; // days
+        std::size_t degree;
+    };
 
     // Polynomials on one interval of the grid, in x = -1..1.
     struct Piece
@@ -59,11 +68,12 @@ private:
         Coefficients distance = {};
     };
 
-    // The piece of a moment and the place in it; null where there is none.
+    // The piece of a moment and the place in it.
     struct Place
     {
-        const Piece* piece = nullptr;
-        double x = 0.0;
+        const Piece* piece;
+        Grid grid;
+        double x;
     };
 
     struct Raw
@@ -73,14 +83,17 @@ private:
         double distance;
     };
 
+    [[nodiscard]] static Grid gridOf(int point);
+    [[nodiscard]] static bool isKnown(int point, double day);
     [[nodiscard]] Place placeOf(int point, double day);
     [[nodiscard]] Raw fromSeries(int point, double day);
-    void build(Piece& piece, int point, double start, double length);
+    void setTimeWithEarth(double day);
+    void build(Piece& piece, int point, double start, const Grid& grid);
 
     astro::EphemerisContext context_;
     bool preciseMoon_;
-    // By point; Ketu has none, for it stands opposite to Rahu.
-    std::array<std::vector<std::unique_ptr<Piece>>, std::size_t(core::kPluto) + 1> pieces_;
+    // By point; Ketu has none, for it stands opposite to Rahu. Last the Earth.
+    std::array<std::vector<std::unique_ptr<Piece>>, std::size_t(kEarth) + 1> pieces_;
 };
 
 } // namespace kestrav::timing

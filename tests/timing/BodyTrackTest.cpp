@@ -86,15 +86,23 @@ TEST(BodyTrack, piecesMeetAndTheirOrderDoesNotMatter)
     BodyTrack forward(tests::seriesForTests(), true);
     BodyTrack backward(tests::seriesForTests(), true);
     std::vector<double> values;
-    // More pieces of the Moon than are kept.
-    for (int i = 0; i < 1100; ++i) {
-        values.push_back(forward.longitude(core::kMoon, i * 8.0 + 3.3));
+    // More pieces of the node than are kept.
+    const auto dayOf = [](int i) {
+        return i * 128.0 + 3.3;
+    };
+    for (int i = 0; i < 2100; ++i) {
+        values.push_back(forward.longitude(core::kRahu, dayOf(i)));
     }
-    for (int i = 1099; i >= 0; --i) {
-        EXPECT_EQ(backward.longitude(core::kMoon, i * 8.0 + 3.3), values[std::size_t(i)]);
+    for (int i = 2099; i >= 0; --i) {
+        EXPECT_EQ(backward.longitude(core::kRahu, dayOf(i)), values[std::size_t(i)]);
     }
-    EXPECT_EQ(forward.longitude(core::kMoon, 3.3), values[0]);
-    for (const double day : {-16.0, 0.0, 32.0, 36512.0}) {
+    EXPECT_EQ(forward.longitude(core::kRahu, dayOf(0)), values[0]);
+    // Neither does it whether the Earth was at hand.
+    const double venus = forward.longitude(core::kVenus, 30000.0);
+    (void)backward.longitude(core::kMars, 30031.0);
+    (void)backward.longitude(core::kSun, 30000.0);
+    EXPECT_EQ(backward.longitude(core::kVenus, 30000.0), venus);
+    for (const double day : {-128.0, 0.0, 64.0, 36480.0}) {
         for (const int point : core::kBodies) {
             const double jump = apart(forward.longitude(point, std::nextafter(day, -1e9)),
                                       forward.longitude(point, day));

@@ -283,6 +283,24 @@ TEST_F(SkySearch, everyPassOfThePlanetsAgreesWithAWalkInSmallSteps)
         const auto found = crossingsIn(longitude, {360.0, 4.0, false, 1e-6}, span, {1.25, 2.5});
         expectSame(found, walked(longitude, span, 1.25, 2.5, 0.02), 0.02);
     }
+    for (const int point : {core::kMercury, core::kMars, core::kJupiter, core::kPluto}) {
+        const auto tropical = [&](double day) {
+            return sky.tropicalLongitude(point, day);
+        };
+        const auto stations = turningPointsIn(tropical, {360.0, 5.0, false, 1e-6}, span);
+        std::vector<double> wanted;
+        for (double day = span.from; day < span.to; day += 0.05) {
+            const double before = sky.position(point, day).speed;
+            const double after = sky.position(point, day + 0.05).speed;
+            if ((before < 0.0) != (after < 0.0)) {
+                wanted.push_back(day + 0.05 * before / (before - after));
+            }
+        }
+        ASSERT_EQ(stations.size(), wanted.size());
+        for (std::size_t i = 0; i < wanted.size(); ++i) {
+            EXPECT_NEAR(stations[i].day, wanted[i], 10.0 * kSecond) << "point " << point;
+        }
+    }
 }
 
 } // namespace
