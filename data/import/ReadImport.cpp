@@ -17,6 +17,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <fstream>
 #include <string>
 #include <system_error>
 #include <unistd.h>
@@ -222,6 +223,23 @@ std::vector<ImportReport> readImportFolder(const fs::path& folder, const ImportO
 bool isImportName(const fs::path& file)
 {
     return hasExtension(file, {".qck", ".cht", ".jhd", ".jdf"});
+}
+
+bool shouldImport(const fs::path& file)
+{
+    if (isImportName(file)) {
+        return true;
+    }
+    if (!hasExtension(file, {".dat"})) {
+        return false;
+    }
+    constexpr std::streamsize kHead = 65536;
+    std::vector<char> head(kHead);
+    std::ifstream stream(file, std::ios::binary);
+    stream.read(head.data(), kHead);
+    const ImportFormat format = recogniseImport(
+        {reinterpret_cast<const std::uint8_t*>(head.data()), std::size_t(stream.gcount())});
+    return format != ImportFormat::ChartLines && format != ImportFormat::Unknown;
 }
 
 std::size_t appendImport(ChartDatabase& database, ImportReport& report)

@@ -57,6 +57,10 @@ struct ImportOptions
 /// Whether a file of this name is imported instead of opened: .QCK, .CHT, .JHD or .JDF in any case.
 [[nodiscard]] bool isImportName(const std::filesystem::path& file);
 
+/// Whether a file is imported instead of opened as a database: by its name, or for ".dat", which is
+/// an extension of our own and of others, by what it contains.
+[[nodiscard]] bool shouldImport(const std::filesystem::path& file);
+
 /// Appends the charts of a report to the database. Charts that it has already, equal in every
 /// field, are moved to the refused ones. Returns how many were added.
 std::size_t appendImport(ChartDatabase& database, ImportReport& report);

@@ -200,6 +200,33 @@ TEST_F(DatabaseTest, AKilledSaveLeavesTheOldOrTheNewFile)
     }
 }
 
+TEST_F(DatabaseTest, ASaveKilledInTheMiddleOfWritingLosesNothing)
+{
+    const std::string old = lineOf("Mira") + "\n";
+    const fs::path path = put("charts.ksc", old);
+    ChartDatabase database;
+    ASSERT_TRUE(database.load(path));
+    for (int i = 0; i < 50; ++i) {
+        database.addLine(lineOf("Sam"));
+    }
+    const std::size_t size = database.bytes().size();
+    ASSERT_GT(size, 8000U);
+    // The system ends the process when its file grows beyond the limit, after any number of bytes.
+    for (rlim_t limit = 0; limit < size; limit += 997) {
+        EXPECT_EQ(inChild([&] {
+                      const rlimit room{limit, limit};
+                      const bool limited = ::setrlimit(RLIMIT_FSIZE, &room) == 0;
+                      return limited && database.save(path) ? 0 : 1;
+                  }),
+                  -1)
+            << limit;
+        EXPECT_EQ(get("charts.ksc"), old) << limit;
+    }
+    EXPECT_FALSE(fs::exists(folder / "charts.BAK"));
+    EXPECT_TRUE(database.save(path));
+    EXPECT_EQ(get("charts.ksc"), textOf(database));
+}
+
 TEST_F(DatabaseTest, SavingAChartAsks)
 {
     ChartDatabase database;

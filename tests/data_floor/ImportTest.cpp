@@ -478,6 +478,10 @@ TEST_F(ImportFileTest, AddsToTheDatabaseOnce)
     EXPECT_EQ(report.refused.at(1).text, "Sam Sample is in the database already");
     EXPECT_TRUE(isImportName("x.QcK"));
     EXPECT_FALSE(isImportName("x.dat"));
+    EXPECT_TRUE(shouldImport(list));
+    EXPECT_TRUE(shouldImport(put("mira.dat", kMiraPacked)));
+    EXPECT_FALSE(shouldImport(put("ours.dat", lineOf("Mira") + "\n")));
+    EXPECT_FALSE(shouldImport(put("empty.dat", "")));
 }
 
 } // namespace
