@@ -129,11 +129,11 @@ void ingressesAndStationsOfACentury(benchmark::State& state)
     state.counters["events"] = double(events);
 }
 
-BENCHMARK(plainCosineLoop)->Unit(benchmark::kMillisecond);
-BENCHMARK(monthOfPanchanga)->Unit(benchmark::kMillisecond);
+BENCHMARK(plainCosineLoop);
+BENCHMARK(monthOfPanchanga);
 BENCHMARK(sunAndMoonFromSeries);
 BENCHMARK(sunAndMoonInterpolated);
-BENCHMARK(ingressesAndStationsOfACentury)->Unit(benchmark::kMillisecond);
+BENCHMARK(ingressesAndStationsOfACentury);
 
 } // namespace
 
