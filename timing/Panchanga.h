@@ -109,8 +109,8 @@ public:
     [[nodiscard]] PanchangaDay day(const core::DateTimeRecord& date,
                                    const astro::Observer& observer);
 
-    /// The day that runs at a chart's moment; before sunrise it is that of the date before, to
-    /// which its hours belong. Month, years and elements are those of the moment.
+    /// The day that runs at the moment of a chart that has one; before sunrise it is that of the
+    /// date before, to which its hours belong. Month, years and elements are those of the moment.
     [[nodiscard]] PanchangaDay dayOf(const core::Chart& chart);
 
     [[nodiscard]] SiderealSky& sky()
