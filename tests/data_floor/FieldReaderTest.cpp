@@ -70,7 +70,8 @@ TEST(FieldReader, CutsCharactersAndNeverSplitsThem)
     FieldReader latin("\xE9\xE8\xE7\t\xE9\r");
     EXPECT_EQ(latin.text(2), "\u00e9\u00e8");
     EXPECT_EQ(latin.wideText(2), L"\u00e9");
-    FieldReader huge(std::string(kLongestLine + 10, 'x'));
+    const std::string line(kLongestLine + 10, 'x');
+    FieldReader huge(line);
     EXPECT_EQ(huge.text(kLongestLine * 2).size(), kLongestLine);
 }
 
