@@ -60,7 +60,7 @@ void storeMoonAndNodes(core::Chart& chart, const core::Settings& settings,
     chart.latitude[core::kMoon] = moon.latitude;
     chart.distance[core::kMoon] = moon.distance;
     // Rahu stays the mean node.
-    astro::storeMeanNodes(astro::shortMoon(time), chart);
+    astro::storeMeanNodes(time, chart);
 }
 
 void storeDay(core::Chart& chart, astro::EphemerisContext& context)

@@ -79,6 +79,7 @@ public:
     bool earthKnown = false;         ///< whether the Earth was computed for this moment
     HeliocentricPosition earth;      ///< the Earth at the moment, not moved back
     HeliocentricPosition earthRates; ///< its change per day
+    Rectangular earthPlace;          ///< the Earth at the moment in rectangular coordinates
     HeliocentricPosition body;       ///< the body at the last pass
     Rectangular sunJ2000;            ///< the Sun, equatorial J2000.0, after codes 10 and 11
     BodyResult result;               ///< of the last body

@@ -65,13 +65,15 @@ constexpr std::array<Term, 13> kTerms = {{
 }};
 // clang-format on
 
+constexpr double kEpoch1950 = 0.5; // centuries from 1900
+constexpr double kNodeSpeed = kNode.rate / core::kDaysPerCentury; // degrees a day
 constexpr double kInclination = 5.128; // degrees, the first term of the latitude
 
 } // namespace
 
 ShortMoon shortMoon(const core::TimeArguments& time)
 {
-    const double T = time.T - 0.5;
+    const double T = time.T - kEpoch1950;
     const double T2 = T * T;
     const double meanLongitude = kMoonLongitude.value(T, T2);
     const double node = kNode.value(T, T2);
@@ -97,7 +99,7 @@ ShortMoon shortMoon(const core::TimeArguments& time)
     }
     return {longitude, rate / core::kDaysPerCentury,
             kInclination * std::sin(latitude * kRadiansPerDegree) * kRadiansPerDegree, node,
-            kNode.rate / core::kDaysPerCentury};
+            kNodeSpeed};
 }
 
 void MoonShort(const core::TimeArguments& time, core::Chart& chart)
@@ -107,15 +109,16 @@ void MoonShort(const core::TimeArguments& time, core::Chart& chart)
     chart.speed[core::kMoon] = moon.speed;
     chart.latitude[core::kMoon] = moon.latitude;
     chart.distance[core::kMoon] = 0.0;
-    storeMeanNodes(moon, chart);
+    storeMeanNodes(time, chart);
 }
 
-void storeMeanNodes(const ShortMoon& moon, core::Chart& chart)
+void storeMeanNodes(const core::TimeArguments& time, core::Chart& chart)
 {
-    chart.longitude[core::kRahu] = core::Normalize360(moon.node - chart.ayanamsa);
+    const double T = time.T - kEpoch1950;
+    chart.longitude[core::kRahu] = core::Normalize360(kNode.value(T, T * T) - chart.ayanamsa);
     chart.longitude[core::kKetu] = core::Normalize360(chart.longitude[core::kRahu] + 180.0);
     for (const int node : {core::kRahu, core::kKetu}) {
-        core::at(chart.speed, node) = moon.nodeSpeed;
+        core::at(chart.speed, node) = kNodeSpeed;
         core::at(chart.latitude, node) = 0.0;
         core::at(chart.distance, node) = 0.0;
     }

@@ -27,6 +27,6 @@ struct ShortMoon
 void MoonShort(const core::TimeArguments& time, core::Chart& chart);
 
 /// Writes only the mean nodes, which belong to both lunar theories.
-void storeMeanNodes(const ShortMoon& moon, core::Chart& chart);
+void storeMeanNodes(const core::TimeArguments& time, core::Chart& chart);
 
 } // namespace kestrav::astro

@@ -66,6 +66,7 @@ void computeSun(EphemerisContext& context)
     context.earthRates = {moved * kRadiansPerDegree / lightTime,
                           (context.earth.B - earlier.B) / lightTime,
                           (context.earth.R - earlier.R) / lightTime};
+    context.earthPlace = rectangular(context.earth);
     context.earthKnown = true;
     context.body = earlier;
 
@@ -85,7 +86,7 @@ void computePlanet(EphemerisContext& context, int code)
 
     context.t = seriesTime(context);
     SumSeries(context, code, context.body);
-    const Rectangular geometric = minus(rectangular(context.body), rectangular(earth));
+    const Rectangular geometric = minus(rectangular(context.body), context.earthPlace);
     const double lightTime = kLightDaysPerAu * length(geometric);
 
     context.t -= lightTime * kMillenniaPerDay;

@@ -1,10 +1,12 @@
 #include "astro/Pluto.h"
 
+#include "astro/BranchFreeTrig.h"
 #include "core/Angles.h"
 #include "core/numeric.h"
 
 #include <array>
 #include <cmath>
+#include <cstddef>
 
 namespace kestrav::astro
 {
@@ -93,6 +95,24 @@ constexpr long long tableTotal()
 }
 static_assert(tableTotal() == 227685373);
 
+// The angles of all terms with their sines and cosines, padded to whole vectors.
+struct Waves
+{
+    std::array<double, 48> angle = {};
+    std::array<double, 48> sine;
+    std::array<double, 48> cosine;
+};
+
+KESTRAV_CLONES
+void evaluateWaves(Waves& waves)
+{
+    for (std::size_t i = 0; i < waves.angle.size(); ++i) {
+        const SineCosine wave = sineCosineBranchFree(waves.angle[i]);
+        waves.sine[i] = wave.sine;
+        waves.cosine[i] = wave.cosine;
+    }
+}
+
 // Obliquity of J2000.0 for Pluto. The rotation of the Sun below uses another value on purpose.
 constexpr double kCosObliquity = 0.917482062;
 constexpr double kSinObliquity = 0.397777156;
@@ -104,17 +124,21 @@ HeliocentricPosition plutoHeliocentric(double centuries)
     const double jupiter = 34.35 + 3034.9057 * centuries;
     const double saturn = 50.08 + 1222.1138 * centuries;
     const double pluto = 238.96 + 144.96 * centuries;
+    Waves waves;
+    for (std::size_t i = 0; i < kTerms.size(); ++i) {
+        const PlutoTerm& term = kTerms[i];
+        waves.angle[i] = (term.jupiter * jupiter + term.saturn * saturn + term.pluto * pluto) *
+                         core::kRadiansPerDegree;
+    }
+    evaluateWaves(waves);
     double longitude = 0.0;
     double latitude = 0.0;
     double radius = 0.0;
-    for (const PlutoTerm& term : kTerms) {
-        const double alpha = (term.jupiter * jupiter + term.saturn * saturn + term.pluto * pluto) *
-                             core::kRadiansPerDegree;
-        const double sine = std::sin(alpha);
-        const double cosine = std::cos(alpha);
-        longitude += term.longitudeSin * sine + term.longitudeCos * cosine;
-        latitude += term.latitudeSin * sine + term.latitudeCos * cosine;
-        radius += term.radiusSin * sine + term.radiusCos * cosine;
+    for (std::size_t i = 0; i < kTerms.size(); ++i) {
+        const PlutoTerm& term = kTerms[i];
+        longitude += term.longitudeSin * waves.sine[i] + term.longitudeCos * waves.cosine[i];
+        latitude += term.latitudeSin * waves.sine[i] + term.latitudeCos * waves.cosine[i];
+        radius += term.radiusSin * waves.sine[i] + term.radiusCos * waves.cosine[i];
     }
     // The three constants belong to an earlier fit than the table. They are kept together: the
     // longitude is then off by up to 5.5 arc seconds between 1900 and 2100.

@@ -21,9 +21,9 @@ Series makeSeries(const std::array<std::array<int, kSeriesBlocks>, kSeriesEntrie
             for (int i = 0; i < counts[e][b]; ++i, ++next) {
                 append(terms[next][0], terms[next][1], terms[next][2]);
             }
-            while (series.amplitude.size() % kLanes != 0) {
-                append(0.0, 0.0, 0.0);
-            }
+        }
+        while (series.amplitude.size() % kLanes != 0) {
+            append(0.0, 0.0, 0.0);
         }
         entry.length = series.amplitude.size() - entry.first;
     }

@@ -19,11 +19,9 @@ inline constexpr int kSeriesTerms = 2637;
 inline constexpr std::size_t kLanes = 8;
 
 /// The longest padded entry that a series file can ask for.
-inline constexpr std::size_t kLongestEntry =
-    std::size_t(kSeriesTerms) + std::size_t(kSeriesBlocks) * (kLanes - 1);
+inline constexpr std::size_t kLongestEntry = std::size_t(kSeriesTerms) + kLanes - 1;
 
-/// Terms A cos(B + C t) of one coordinate and power: `count` terms from index `first` on, padded
-/// with terms of amplitude 0 to a multiple of kLanes.
+/// Terms A cos(B + C t) of one coordinate and power: `count` terms from index `first` on.
 struct SeriesBlock
 {
     std::uint32_t first = 0;
@@ -37,7 +35,7 @@ struct SeriesEntry
 {
     std::array<SeriesBlock, kSeriesBlocks> blocks = {};
     std::size_t first = 0;  ///< index of the entry's first term
-    std::size_t length = 0; ///< number of its terms with the padding
+    std::size_t length = 0; ///< number of its terms, padded with terms of amplitude 0 to whole lanes
 };
 
 struct Series

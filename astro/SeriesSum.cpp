@@ -24,10 +24,14 @@ void evaluateTerms(const double* amplitude, const double* phase, const double* f
 double sumLanes(const double* values, std::size_t count)
 {
     std::array<double, kLanes> lanes = {};
-    for (std::size_t i = 0; i < count; i += kLanes) {
+    const std::size_t whole = count - count % kLanes;
+    for (std::size_t i = 0; i < whole; i += kLanes) {
         for (std::size_t lane = 0; lane < kLanes; ++lane) {
             lanes[lane] += values[i + lane];
         }
+    }
+    for (std::size_t lane = 0; lane < count - whole; ++lane) {
+        lanes[lane] += values[whole + lane];
     }
     return ((lanes[0] + lanes[4]) + (lanes[2] + lanes[6])) +
            ((lanes[1] + lanes[5]) + (lanes[3] + lanes[7]));

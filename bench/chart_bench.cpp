@@ -1,4 +1,6 @@
 // How long one chart takes at random dates, beside the plain loop over the same cosines.
+#include "analysis/AnalyseChart.h"
+#include "analysis/Ashtakavarga.h"
 #include "analysis/ComputeChart.h"
 #include "astro/DataFile.h"
 #include "astro/MoonSeriesData.h"
@@ -170,9 +172,40 @@ void wholeChart(benchmark::State& state)
     });
 }
 
+// Relationships, combustion, 21 divisional charts, vimshopaka with its dignities and ashtakavarga.
+void signAnalysis(benchmark::State& state)
+{
+    const core::Settings settings = settingsOf(true);
+    std::vector<core::Chart> charts(randomCharts().begin(), randomCharts().begin() + 64);
+    astro::EphemerisContext context(series());
+    for (core::Chart& chart : charts) {
+        analysis::ComputeChart(chart, settings, context);
+        analysis::AnalyseChart(chart, settings, context);
+    }
+    std::size_t next = 0;
+    const long long before = allocations;
+    for (auto _ : state) {
+        core::Chart& chart = charts[next++ % charts.size()];
+        analysis::analyseSigns(chart, settings);
+        benchmark::DoNotOptimize(analysis::computeAshtakavarga(chart, core::kRashi, true));
+    }
+    state.counters["allocations"] = double(allocations - before);
+}
+
+void analysedChart(benchmark::State& state)
+{
+    const core::Settings settings = settingsOf(true);
+    runCharts(state, [&](core::Chart& chart, astro::EphemerisContext& context) {
+        analysis::ComputeChart(chart, settings, context);
+        analysis::AnalyseChart(chart, settings, context);
+    });
+}
+
 BENCHMARK(plainCosineLoop)->ArgName("preciseMoon")->Arg(0)->Arg(1);
 BENCHMARK(positionsAndHouses)->ArgName("preciseMoon")->Arg(0)->Arg(1);
 BENCHMARK(wholeChart);
+BENCHMARK(signAnalysis);
+BENCHMARK(analysedChart)->Name("wholeChartAnalysed");
 BENCHMARK(wholeChart)->Threads(1)->Threads(2)->UseRealTime();
 
 } // namespace

@@ -34,6 +34,10 @@ def main():
             ratio = f"{plain[0] / time:.2f}" if plain else ""
             count = f"{row['allocations']:.0f}" if "allocations" in row else ""
             print(f"{path.stem:18} {name:42} {time:9.2f} {ratio:>11} {count:>12}")
+        sky = results.get("positionsAndHouses/preciseMoon:1")
+        signs = results.get("signAnalysis")
+        if sky and signs:
+            print(f"{path.stem:18} sign analysis against the sky: {signs[0] / sky[0]:.2f}")
         one = results.get("wholeChart/real_time/threads:1")
         two = results.get("wholeChart/real_time/threads:2")
         if one and two:
