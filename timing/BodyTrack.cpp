@@ -18,9 +18,6 @@ namespace
 constexpr std::size_t kSlots = 2048; // pieces of one body that are kept
 constexpr double kFurthestDay = 1e8; // of any use, and safe as a whole number
 
-// The light time of one astronomical unit is 0.00578 days.
-constexpr double kHalfLightTime = 0.0029;
-
 struct ValueAndSlope
 {
     double value;
@@ -77,7 +74,6 @@ BodyTrack::Grid BodyTrack::gridOf(int point)
         return {16.0, 14};
     case core::kVenus:
     case core::kMars:
-    case kEarth:
         return {32.0, 18};
     case core::kRahu:
         return {128.0, 6};
@@ -94,29 +90,6 @@ bool BodyTrack::isKnown(int point, double day)
            std::fabs(day) < kFurthestDay;
 }
 
-// Sets the context to a moment and gives it the Earth, so that a planet does not compute it again.
-// The rates are those in the middle of the light time that the engine takes them over.
-void BodyTrack::setTimeWithEarth(double day)
-{
-    // What is asked of the Earth's pieces may set the context to other moments.
-    const Place here = placeOf(kEarth, day);
-    const Place before = placeOf(kEarth, day - kHalfLightTime);
-    context_.setTime(core::timeArguments(day / core::kDaysPerCentury));
-    const auto value = [&](const Coefficients& coefficients) {
-        return chebyshev(coefficients.data(), here.grid.degree, here.x);
-    };
-    context_.earth = {value(here.piece->longitude), value(here.piece->latitude),
-                      value(here.piece->distance)};
-    const auto rate = [&](const Coefficients& coefficients) {
-        return chebyshevWithSlope(coefficients.data(), before.grid.degree, before.x).slope * 2.0 /
-               before.grid.length;
-    };
-    context_.earthRates = {rate(before.piece->longitude), rate(before.piece->latitude),
-                           rate(before.piece->distance)};
-    context_.earthKnown = true;
-}
-
-// Degrees and astronomical units; radians for the Earth.
 BodyTrack::Raw BodyTrack::fromSeries(int point, double day)
 {
     const core::TimeArguments time = core::timeArguments(day / core::kDaysPerCentury);
@@ -131,18 +104,7 @@ BodyTrack::Raw BodyTrack::fromSeries(int point, double day)
         const astro::MoonPosition moon = astro::preciseMoon(time.T);
         return {moon.longitude, moon.latitude * core::kDegreesPerRadian, moon.distance};
     }
-    if (point == kEarth) {
-        context_.setTime(time);
-        astro::HeliocentricPosition earth;
-        context_.t = time.fromJ2000 / 10.0;
-        astro::SumSeries(context_, astro::kCodeSun, earth);
-        return {earth.L, earth.B, earth.R};
-    }
-    if (point == core::kSun) {
-        context_.setTime(time);
-    } else {
-        setTimeWithEarth(day);
-    }
+    context_.setTime(time);
     astro::PlanetPosition(context_, astro::codeOfPoint(point));
     const astro::BodyResult& body = context_.result;
     return {body.longitude, body.latitude * core::kDegreesPerRadian, body.distance};
@@ -157,15 +119,14 @@ void BodyTrack::build(Piece& piece, int point, double start, const Grid& grid)
     for (std::size_t i = 0; i < 2 * degree; ++i) {
         cosines[i] = std::cos(core::kPi * double(i) / double(degree));
     }
-    const double turn = point == kEarth ? core::kTwoPi : 360.0;
     std::array<Raw, kMostCoefficients> samples{};
     for (std::size_t j = 0; j <= degree; ++j) {
         samples[j] = fromSeries(point, start + grid.length * (cosines[j] + 1.0) / 2.0);
         if (j == 0) {
-            samples[j].longitude = core::NormalizeMod(turn, samples[j].longitude);
+            samples[j].longitude = core::Normalize360(samples[j].longitude);
         } else {
             const double before = samples[j - 1].longitude;
-            samples[j].longitude = before + std::remainder(samples[j].longitude - before, turn);
+            samples[j].longitude = before + std::remainder(samples[j].longitude - before, 360.0);
         }
     }
     for (std::size_t k = 0; k <= degree; ++k) {

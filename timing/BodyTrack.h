@@ -28,7 +28,7 @@ struct TrackedPosition
 /// latitudes agree with the series within 0.001 arc seconds (the rounding of a moment included), so
 /// a search costs a few polynomials a step. The pieces lie on a fixed grid of time: what was asked
 /// before never changes a result.
-/// An object belongs to one thread. It holds up to 12 x 2048 pieces, 13 megabytes, and then
+/// An object belongs to one thread. It holds up to 11 x 2048 pieces, 12 megabytes, and then
 /// replaces old ones: a century of most bodies.
 class BodyTrack
 {
@@ -48,9 +48,6 @@ public:
 private:
     static constexpr std::size_t kMostCoefficients = 21;
     using Coefficients = std::array<double, kMostCoefficients>;
-
-    // The heliocentric Earth has pieces of its own, for every planet needs it.
-    static constexpr int kEarth = core::kPluto + 1;
 
     // How the time of a body is cut, and the degree of its polynomials.
     struct Grid
@@ -87,13 +84,12 @@ private:
     [[nodiscard]] static bool isKnown(int point, double day);
     [[nodiscard]] Place placeOf(int point, double day);
     [[nodiscard]] Raw fromSeries(int point, double day);
-    void setTimeWithEarth(double day);
     void build(Piece& piece, int point, double start, const Grid& grid);
 
     astro::EphemerisContext context_;
     bool preciseMoon_;
-    // By point; Ketu has none, for it stands opposite to Rahu. Last the Earth.
-    std::array<std::vector<std::unique_ptr<Piece>>, std::size_t(kEarth) + 1> pieces_;
+    // By point; Ketu has none, for it stands opposite to Rahu.
+    std::array<std::vector<std::unique_ptr<Piece>>, std::size_t(core::kPluto) + 1> pieces_;
 };
 
 } // namespace kestrav::timing
