@@ -14,7 +14,7 @@ core::Result<void> writeDerivedFile(const std::filesystem::path& path, std::stri
     fresh += ".new";
     std::error_code problem;
     std::filesystem::remove(fresh, problem);
-    const core::Result<void> written = core::writeFileSafely(
+    core::Result<void> written = core::writeFileSafely(
         fresh, {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()});
     if (!written) {
         return written;

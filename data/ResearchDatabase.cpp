@@ -186,7 +186,7 @@ core::Result<void> saveResearch(const ChartDatabase& database, const core::Setti
         text += line;
         text += '\n';
     }
-    const core::Result<void> written = writeDerivedFile(path, text);
+    core::Result<void> written = writeDerivedFile(path, text);
     if (!written) {
         return written;
     }

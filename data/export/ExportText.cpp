@@ -54,7 +54,7 @@ std::string plainCell(std::wstring_view text)
 
 std::string csvCell(std::wstring_view text)
 {
-    const std::string cell = core::toUtf8(heldBack(text));
+    std::string cell = core::toUtf8(heldBack(text));
     if (cell.find_first_of(",\"\r\n\t") == std::string::npos) {
         return cell;
     }

@@ -55,7 +55,7 @@ core::Result<core::CivilDate> dateOf(const std::string& text)
     if (const std::optional<core::CivilDate> named = dateWithMonthName(text)) {
         return *named;
     }
-    const core::Result<core::CivilDate> date = core::parseDate(text);
+    core::Result<core::CivilDate> date = core::parseDate(text);
     if (date) {
         return date;
     }

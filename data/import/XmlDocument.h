@@ -11,8 +11,9 @@
 #include <string_view>
 #include <vector>
 
-struct _xmlDoc;
-struct _xmlNode;
+// The names are those of libxml2.
+struct _xmlDoc;  // NOLINT(bugprone-reserved-identifier)
+struct _xmlNode; // NOLINT(bugprone-reserved-identifier)
 
 namespace kestrav::data
 {
