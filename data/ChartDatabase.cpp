@@ -72,7 +72,7 @@ core::Chart& ChartDatabase::read(std::size_t index, core::Chart& chart, bool nam
 std::optional<std::size_t> ChartDatabase::find(std::wstring_view name) const
 {
     for (std::size_t i = 0; i < size(); ++i) {
-        if (nameOfLine(line(i)) == name) {
+        if (!isShortLine(line(i)) && nameOfLine(line(i)) == name) {
             return i;
         }
     }

@@ -71,7 +71,7 @@ public:
     /// Parses a line into the record, which is returned.
     core::Chart& read(std::size_t index, core::Chart& chart, bool namesOnly = false);
 
-    /// The first line whose chart has exactly this name.
+    /// The first line whose chart has exactly this name. Damaged lines have none.
     [[nodiscard]] std::optional<std::size_t> find(std::wstring_view name) const;
 
     /// Appends a chart and returns its index.

@@ -278,14 +278,17 @@ TEST_F(DatabaseTest, ChangedNamesStayWithinTheirLength)
 TEST_F(DatabaseTest, DeletingAsks)
 {
     ChartDatabase database;
+    database.addLine("damaged");
     database.addLine(lineOf("Mira"));
     PreparedMessages messages({Answer::No, Answer::Yes});
-    EXPECT_EQ(deleteChart(database, L"mira", messages), Outcome::Failed);
-    messages.expectOne(L"Notice", L"No need to Delete because not yet saved");
+    for (const wchar_t* unknown : {L"mira", L"No Name"}) {
+        EXPECT_EQ(deleteChart(database, unknown, messages), Outcome::Failed);
+        messages.expectOne(L"Notice", L"No need to Delete because not yet saved");
+    }
     EXPECT_EQ(deleteChart(database, L"Mira", messages), Outcome::Cancelled);
     messages.expectOne(L"Notice", L"Delete 'Mira' from file?");
     EXPECT_EQ(deleteChart(database, L"Mira", messages), Outcome::Done);
-    EXPECT_EQ(database.size(), 0U);
+    EXPECT_EQ(database.size(), 1U);
 }
 
 TEST_F(DatabaseTest, GroupTagsChangeInOneGo)
