@@ -35,7 +35,7 @@ constexpr std::string_view kTotalLengths =
 
 // The order is that of the settings file: it only ever grows at the end.
 // clang-format off
-constexpr std::array<SettingInfo, 34> kTable = {{
+constexpr std::array<SettingInfo, 40> kTable = {{
     {"displayFlags", &S::displayFlags, 0, 2147483647,
      "sum of 1 for English instead of Sanskrit names and 64 for glyphs instead of letters"},
     {"ayanamsaRow", &S::ayanamsaRow, 0, 9,
@@ -93,12 +93,29 @@ constexpr std::array<SettingInfo, 34> kTable = {{
      "whether Kaala to Gulika stand at the middle of their part of the day instead of its start"},
     {"saham2", &S::saham2, 0, 35, "saham that point 61 shows", kSahams},
     {"saham3", &S::saham3, 0, 35, "saham that point 62 shows", kSahams},
+    {"dashaSubPeriodStart", &S::dashaSubPeriodStart, 0, 2,
+     "sign from which the sub-periods of sign dashas are counted",
+     "own sign|stronger of it and its 7th|sign of its lord"},
+    {"charaOwnSignLast", &S::charaOwnSignLast, 0, 1,
+     "whether the parent's sign closes its sub-periods in the Jaimini Chara dasha"},
+    {"charaExaltationYears", &S::charaExaltationYears, 0, 1,
+     "whether an exalted or debilitated lord adds or takes a year in the Jaimini Chara dasha"},
+    {"dwisaptatiLordInAscendant", &S::dwisaptatiLordInAscendant, 0, 1,
+     "whether Dwisaptati sama also applies with the lord of the ascendant in it"},
+    {"atlasVersion", &S::atlasVersion, 0, 1, "which set of files the outside atlas has",
+     "plain|indexed"},
+    {"atlasPath", &S::atlasPath, 0, 255, "folder of the outside atlas; empty for none"},
 }};
 // clang-format on
 
 bool isSwitch(const SettingInfo& info)
 {
     return std::holds_alternative<bool S::*>(info.field);
+}
+
+bool isControl(char character)
+{
+    return static_cast<unsigned char>(character) < 0x20 || character == 0x7F;
 }
 
 // The C library's conversion depends on the locale: a Turkish one does not pair I with i.
@@ -166,9 +183,21 @@ const SettingInfo* findSetting(std::string_view name)
     return found == kTable.end() ? nullptr : &*found;
 }
 
+bool settingIsText(const SettingInfo& info)
+{
+    return std::holds_alternative<std::string S::*>(info.field);
+}
+
 double settingValue(const Settings& settings, const SettingInfo& info)
 {
-    return std::visit([&](auto field) { return double(settings.*field); }, info.field);
+    if (const auto* field = std::get_if<bool S::*>(&info.field)) {
+        return settings.**field ? 1.0 : 0.0;
+    }
+    if (const auto* number = std::get_if<int S::*>(&info.field)) {
+        return settings.**number;
+    }
+    const auto* real = std::get_if<double S::*>(&info.field);
+    return real != nullptr ? settings.**real : 0.0;
 }
 
 void storeSetting(Settings& settings, const SettingInfo& info, double value)
@@ -181,13 +210,30 @@ void storeSetting(Settings& settings, const SettingInfo& info, double value)
         settings.** field = kept != 0.0;
     } else if (const auto* number = std::get_if<int S::*>(&info.field)) {
         settings.** number = int(kept);
-    } else {
-        settings.*std::get<double S::*>(info.field) = kept;
+    } else if (const auto* real = std::get_if<double S::*>(&info.field)) {
+        settings.** real = kept;
     }
+}
+
+void storeSettingText(Settings& settings, const SettingInfo& info, std::string_view text)
+{
+    if (const auto* field = std::get_if<std::string S::*>(&info.field)) {
+        std::string& stored = settings.**field;
+        stored = cutUtf8(text, std::size_t(info.highest));
+        std::erase_if(stored, isControl);
+    }
+}
+
+void copySetting(Settings& settings, const Settings& from, const SettingInfo& info)
+{
+    std::visit([&](auto field) { settings.*field = from.*field; }, info.field);
 }
 
 std::string settingText(const Settings& settings, const SettingInfo& info)
 {
+    if (const auto* field = std::get_if<std::string S::*>(&info.field)) {
+        return settings.**field;
+    }
     const double value = settingValue(settings, info);
     if (isSwitch(info)) {
         return value != 0.0 ? "true" : "false";
@@ -210,6 +256,16 @@ Result<void> setSetting(Settings& settings, std::string_view name, std::string_v
     const SettingInfo* const info = findSetting(name);
     if (info == nullptr) {
         return Error{"there is no setting '" + std::string(cutUtf8(name, 60)) + "'"};
+    }
+    if (settingIsText(*info)) {
+        if (text.size() > std::size_t(info->highest) || !fromUtf8(text) ||
+            std::any_of(text.begin(), text.end(), isControl)) {
+            return Error{"setting " + std::string(name) + ": the text is longer than " +
+                         shortestNumber(info->highest) +
+                         " bytes or holds characters that are not allowed"};
+        }
+        storeSettingText(settings, *info, text);
+        return {};
     }
     std::optional<double> value = parseNumber(text);
     if (!value) {

@@ -63,6 +63,16 @@ struct Settings
     int saham2 = 25;
     int saham3 = 14;
 
+    // Sub-choices of dashas.
+    int dashaSubPeriodStart = 0;
+    bool charaOwnSignLast = true;
+    bool charaExaltationYears = false;
+    bool dwisaptatiLordInAscendant = false;
+
+    // Places.
+    int atlasVersion = 0;
+    std::string atlasPath = {}; ///< UTF-8; empty means no atlas
+
     /// The editable definitions from which ayanamsaRow chooses.
     AyanamsaTable ayanamsaTable = factoryAyanamsaTable();
 
@@ -70,7 +80,8 @@ struct Settings
 };
 
 /// Where a setting lives in the struct.
-using SettingField = std::variant<bool Settings::*, int Settings::*, double Settings::*>;
+using SettingField =
+    std::variant<bool Settings::*, int Settings::*, double Settings::*, std::string Settings::*>;
 
 /// One row of the settings table.
 struct SettingInfo
@@ -78,7 +89,7 @@ struct SettingInfo
     std::string_view name;
     SettingField field;
     double lowest;
-    double highest;
+    double highest; ///< of a text its greatest length in bytes
     std::string_view meaning;
     /// Names of the values from `lowest` on, separated by '|'; empty when they are plain numbers.
     std::string_view choices = {};
@@ -90,14 +101,24 @@ struct SettingInfo
 /// The row of a name, or null. Names are compared exactly.
 [[nodiscard]] const SettingInfo* findSetting(std::string_view name);
 
-/// The value as a number; false and true are 0 and 1.
+/// Whether a setting is a text, not a number or a switch.
+[[nodiscard]] bool settingIsText(const SettingInfo& info);
+
+/// The value as a number; false and true are 0 and 1, a text has the value 0.
 [[nodiscard]] double settingValue(const Settings& settings, const SettingInfo& info);
 
 /// Stores the value after clamping it into the range of the setting. A value that is no number
-/// leaves the setting as it is.
+/// leaves the setting as it is, and so does any value for a text.
 void storeSetting(Settings& settings, const SettingInfo& info, double value);
 
-/// Value as text: "true" or "false", or a number.
+/// Stores a text, cut to its greatest length without splitting a character and without control
+/// characters. Other settings stay as they are.
+void storeSettingText(Settings& settings, const SettingInfo& info, std::string_view text);
+
+/// Gives a setting the value that it has in other settings.
+void copySetting(Settings& settings, const Settings& from, const SettingInfo& info);
+
+/// Value as text: "true" or "false", a number, or the text itself.
 [[nodiscard]] std::string settingText(const Settings& settings, const SettingInfo& info);
 
 /// The name of a value among the choices of the setting; empty when it has none.

@@ -17,6 +17,7 @@ namespace
 
 constexpr std::size_t kMarkSize = 8;
 constexpr std::size_t kCountSize = 4;
+constexpr std::size_t kTextSize = 256;
 constexpr std::size_t kRecordSize = 36;
 constexpr std::size_t kNameOffset = 20;
 constexpr std::uintmax_t kLargestFile = 1U << 20U;
@@ -33,7 +34,17 @@ bool isDouble(const SettingInfo& info)
 
 std::size_t fieldSize(const SettingInfo& info)
 {
+    if (settingIsText(info)) {
+        return kTextSize;
+    }
     return isDouble(info) ? sizeof(double) : sizeof(std::int32_t);
+}
+
+// A text that is not UTF-8 is damage and counts as empty.
+void decodeText(std::span<const std::uint8_t> bytes, Settings& settings, const SettingInfo& info)
+{
+    const std::string text(bytes.begin(), std::find(bytes.begin(), bytes.end(), std::uint8_t{0}));
+    storeSettingText(settings, info, fromUtf8(text) ? text : std::string());
 }
 
 // Stores the fields of the block and returns the bytes that this version does not know.
@@ -45,9 +56,13 @@ std::span<const std::uint8_t> decodeBlock(std::span<const std::uint8_t> block, S
         if (block.size() - offset < size) {
             return {};
         }
-        storeSetting(settings, info,
-                     isDouble(info) ? readDouble(block, offset)
-                                    : double(readInteger<std::int32_t>(block, offset)));
+        if (settingIsText(info)) {
+            decodeText(block.subspan(offset, size), settings, info);
+        } else {
+            storeSetting(settings, info,
+                         isDouble(info) ? readDouble(block, offset)
+                                        : double(readInteger<std::int32_t>(block, offset)));
+        }
         offset += size;
     }
     return block.subspan(offset);
@@ -107,7 +122,11 @@ std::vector<std::uint8_t> encodeSettings(const StoredSettings& stored)
     std::vector<std::uint8_t> block;
     for (const SettingInfo& info : settingsTable()) {
         const double value = settingValue(stored.settings, info);
-        if (isDouble(info)) {
+        if (settingIsText(info)) {
+            std::string text = settingText(stored.settings, info);
+            text.resize(kTextSize, '\0');
+            block.insert(block.end(), text.begin(), text.end());
+        } else if (isDouble(info)) {
             appendDouble(block, value);
         } else {
             appendInteger(block, std::int32_t(value));

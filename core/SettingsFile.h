@@ -26,10 +26,10 @@ struct StoredSettings
 };
 
 /// The settings in the bytes of a settings file: the mark, the block (its own byte count, then the
-/// fields in the order of the settings table: whole numbers and switches as int32, others as
-/// double), then ten ayanamsa records of 36 bytes. All numbers are little-endian.
-/// Another mark gives the defaults. Values out of range are clamped, fields and records that are
-/// missing take their defaults.
+/// fields in the order of the settings table: whole numbers and switches as int32, other numbers as
+/// double, texts as 256 bytes of UTF-8 padded with NUL), then ten ayanamsa records of 36 bytes. All
+/// numbers are little-endian. Another mark gives the defaults. Values out of range are clamped,
+/// fields and records that are missing take their defaults.
 [[nodiscard]] StoredSettings decodeSettings(std::span<const std::uint8_t> bytes);
 
 /// The bytes of a settings file.

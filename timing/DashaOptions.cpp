@@ -18,6 +18,11 @@ DashaOptions dashaOptions(const core::Settings& settings)
     options.yearLength =
         YearLength(core::ClampRange(0, int(YearLength::Custom), settings.dashaYearLength));
     options.customYearDays = settings.customYearDays;
+    options.subPeriodStart = SubPeriodStart(
+        core::ClampRange(0, int(SubPeriodStart::SignOfLord), settings.dashaSubPeriodStart));
+    options.charaOwnSignLast = settings.charaOwnSignLast;
+    options.charaExaltationYears = settings.charaExaltationYears;
+    options.dwisaptatiLordInAscendant = settings.dwisaptatiLordInAscendant;
     return options;
 }
 

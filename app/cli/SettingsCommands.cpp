@@ -22,9 +22,16 @@ namespace
 
 using Infos = std::vector<const core::SettingInfo*>;
 
+// Texts stand in quotes, so that an empty one shows too.
+std::string plainText(const core::Settings& settings, const core::SettingInfo& info)
+{
+    const std::string text = core::settingText(settings, info);
+    return core::settingIsText(info) ? '"' + text + '"' : text;
+}
+
 std::string valueText(const core::Settings& settings, const core::SettingInfo& info)
 {
-    std::string text = core::settingText(settings, info);
+    std::string text = plainText(settings, info);
     if (!info.choices.empty()) {
         const int value = int(core::settingValue(settings, info));
         text += " (" + std::string(core::choiceName(info, value)) + ")";
@@ -37,6 +44,9 @@ std::string rangeText(const core::SettingInfo& info)
     if (std::holds_alternative<bool core::Settings::*>(info.field)) {
         return "false, true";
     }
+    if (core::settingIsText(info)) {
+        return "up to " + core::shortestNumber(info.highest) + " bytes";
+    }
     return core::shortestNumber(info.lowest) + " to " + core::shortestNumber(info.highest);
 }
 
@@ -46,7 +56,7 @@ std::wstring tableText(const core::Settings& settings)
     TextTable table({{L"Setting"}, {L"Value"}, {L"Default"}, {L"Range"}, {L"Meaning"}});
     for (const core::SettingInfo& info : core::settingsTable()) {
         table.add({core::fromFileBytes(info.name), core::fromFileBytes(valueText(settings, info)),
-                   core::fromFileBytes(core::settingText(defaults, info)),
+                   core::fromFileBytes(plainText(defaults, info)),
                    core::fromFileBytes(rangeText(info)), core::fromFileBytes(info.meaning)});
     }
     return table.text();
@@ -167,7 +177,7 @@ ExitCode SetSettingCommand::run(const Arguments& arguments, Console& console) co
     }
     core::Settings changed;
     const ExitCode code = changeStoredSettings(arguments, console, [&](core::Settings& settings) {
-        core::storeSetting(settings, *infos.front(), core::settingValue(typed, *infos.front()));
+        core::copySetting(settings, typed, *infos.front());
         changed = settings;
     });
     if (code == ExitCode::Done) {
@@ -194,7 +204,7 @@ ExitCode ResetSettingsCommand::run(const Arguments& arguments, Console& console)
     core::Settings changed;
     const ExitCode code = changeStoredSettings(arguments, console, [&](core::Settings& settings) {
         for (const core::SettingInfo* const info : infos) {
-            core::storeSetting(settings, *info, core::settingValue(defaults, *info));
+            core::copySetting(settings, defaults, *info);
         }
         changed = settings;
     });

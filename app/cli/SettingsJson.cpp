@@ -31,6 +31,14 @@ Json settingsJson(const core::Settings& settings, std::span<const core::SettingI
     Json object = Json::object();
     for (const core::SettingInfo* const info : infos) {
         Json setting;
+        if (core::settingIsText(*info)) {
+            setting["value"] = core::settingText(settings, *info);
+            setting["default"] = core::settingText(defaults, *info);
+            setting["range"] = nullptr;
+            setting["meaning"] = std::string(info->meaning);
+            object[std::string(info->name)] = std::move(setting);
+            continue;
+        }
         setting["value"] = typed(*info, core::settingValue(settings, *info));
         setting["default"] = typed(*info, core::settingValue(defaults, *info));
         setting["range"] = Json::array({typed(*info, info->lowest), typed(*info, info->highest)});

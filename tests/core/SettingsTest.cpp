@@ -79,6 +79,7 @@ TEST(Settings, TableIsSoundThroughout)
         // What is shown can be entered again.
         Settings settings;
         storeSetting(settings, info, info.highest);
+        storeSettingText(settings, info, "/atlas of mine");
         Settings again;
         EXPECT_TRUE(setSetting(again, info.name, settingText(settings, info)));
         EXPECT_EQ(again, settings) << info.name;
@@ -118,17 +119,21 @@ TEST(SettingsFile, HasItsLayoutByteForByte)
     Settings settings;
     settings.ayanamsaTable[1].epochYear = -2;
     settings.daylightSavingHours = 2;
+    settings.atlasPath = "/atlas/\xC3\xA9";
     const Bytes bytes = encodeSettings({settings, {}});
     ASSERT_EQ(bytes.size(), recordsStart + 360);
     const auto expectBytes = [&](std::size_t offset, const Bytes& expected) {
         const auto start = bytes.begin() + std::ptrdiff_t(offset);
         EXPECT_EQ(Bytes(start, start + std::ptrdiff_t(expected.size())), expected) << offset;
     };
-    expectBytes(0, {0, 0, 0, 0, 0, 0, 0x18, 0x40, std::uint8_t(recordsStart - 8), 0, 0, 0});
+    const std::size_t count = recordsStart - 8;
+    expectBytes(
+        0, {0, 0, 0, 0, 0, 0, 0x18, 0x40, std::uint8_t(count), std::uint8_t(count >> 8), 0, 0});
     // displayFlags, ayanamsaRow, houseSystem, deltaTOn, preciseMoon, magnitudes, saving hours
     expectBytes(12, {1, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 2, 0});
     expectBytes(120, {0, 0, 0, 0, 0, 0xD4, 0x76, 0x40}); // customYearDays 365.25
     expectBytes(136, {1, 0, 0, 0});                      // allPasses
+    expectBytes(172, {'/', 'a', 't', 'l', 'a', 's', '/', 0xC3, 0xA9, 0, 0}); // atlasPath
     // Second record: year -2, 23.15888888888889, 50.27, name.
     expectBytes(recordsStart + 36, {0xFE, 0xFF, 0xFF, 0xFF, 0xBE, 0x79, 0x35, 0xF1, 0xAC, 0x28,
                                     0x37, 0x40, 0xC3, 0xF5, 0x28, 0x5C, 0x8F, 0x22, 0x49, 0x40,
@@ -200,7 +205,7 @@ TEST(SettingsFile, KeepsTheFieldsOfALaterVersion)
     stored.settings.ayanamsaTable[9].setName("last");
     stored.laterFields = {9, 8, 7, 6, 5};
     const Bytes bytes = encodeSettings(stored);
-    EXPECT_EQ(bytes[8], recordsStart - 8 + 5);
+    EXPECT_EQ(bytes[8] + 256U * bytes[9], recordsStart - 8 + 5);
     const StoredSettings read = decodeSettings(bytes);
     EXPECT_EQ(read.settings, stored.settings);
     EXPECT_EQ(encodeSettings(read), bytes);
