@@ -20,6 +20,11 @@ if(KESTRAV_SANITIZE)
     target_compile_definitions(kestrav_flags INTERFACE KESTRAV_NO_CLONES=1)
 endif()
 
+if(KESTRAV_FUZZ)
+    # The floors are watched too, not only the fuzz targets themselves.
+    target_compile_options(kestrav_flags INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
 # kestrav_floor(NAME DEPENDS ...) declares the static library of one floor from the sources in
 # the current folder. A floor may only depend on the floors below it.
 function(kestrav_floor name)

@@ -10,5 +10,7 @@ for target in build/fuzz/bin/fuzz_*; do
     echo "$(basename "$target"): $seconds seconds"
     corpus=build/fuzz/corpus/$(basename "$target")
     mkdir -p "$corpus"
-    "$target" -max_total_time="$seconds" -rss_limit_mb=2048 -verbosity=0 -print_final_stats=0 "$corpus"
+    seeds=fuzz/corpus/$(basename "$target")
+    [ -d "$seeds" ] || seeds=
+    "$target" -max_total_time="$seconds" -rss_limit_mb=2048 -verbosity=0 -print_final_stats=0 "$corpus" ${seeds:+"$seeds"}
 done
