@@ -4,7 +4,9 @@
 #include "astro/DataFile.h"
 #include "data/ChartDatabase.h"
 #include "data/ChartLine.h"
+#include "data/CheckDatabaseLine.h"
 #include "data/Chooser.h"
+#include "data/ResearchLine.h"
 #include "data/ResearchRebuild.h"
 
 #include <benchmark/benchmark.h>
@@ -207,6 +209,32 @@ void wholeChartAlone(benchmark::State& state)
     }
 }
 
+void formatResearchLine(benchmark::State& state)
+{
+    std::vector<core::Chart> charts = parsedCharts();
+    astro::EphemerisContext context(series());
+    for (core::Chart& chart : charts) {
+        data::computeForResearch(chart, core::Settings(), context);
+    }
+    std::size_t next = 0;
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(data::FormatResearchLine(charts[next++ % charts.size()]).size());
+    }
+}
+
+void computeForResearch(benchmark::State& state)
+{
+    std::vector<core::Chart> charts = parsedCharts();
+    astro::EphemerisContext context(series());
+    const core::Settings settings;
+    std::size_t next = 0;
+    for (auto _ : state) {
+        core::Chart& chart = charts[next++ % charts.size()];
+        data::computeForResearch(chart, settings, context);
+        benchmark::DoNotOptimize(chart.longitude.data());
+    }
+}
+
 void rebuildResearch(benchmark::State& state)
 {
     data::ChartDatabase database = randomDatabase(kRebuiltCharts);
@@ -236,6 +264,8 @@ BENCHMARK(rebuildResearch)
     ->MeasureProcessCPUTime()
     ->UseRealTime();
 BENCHMARK(parseChartLine)->Unit(benchmark::kMicrosecond);
+BENCHMARK(computeForResearch)->Unit(benchmark::kMicrosecond);
+BENCHMARK(formatResearchLine)->Unit(benchmark::kMicrosecond);
 BENCHMARK(formatChartLine)->Unit(benchmark::kMicrosecond);
 
 } // namespace

@@ -237,24 +237,29 @@ std::wstring latitudeText(double degrees)
     return geoText(L"%2d%lc%2d'%2d\"", degrees, L"NS");
 }
 
+std::wstring longitudeTextOf(const core::Chart& chart)
+{
+    std::wstring text = cleanUnquoted(chart.identity.longitudeText, kLongitudeLength);
+    const bool kept = !text.empty() && standsFor(readLongitudeText(text), chart.geoLongitude);
+    return kept ? text : longitudeText(chart.geoLongitude);
+}
+
+std::wstring latitudeTextOf(const core::Chart& chart)
+{
+    std::wstring text = cleanUnquoted(chart.identity.latitudeText, kLatitudeLength);
+    const bool kept = !text.empty() && standsFor(readLatitudeText(text), chart.geoLatitude);
+    return kept ? text : latitudeText(chart.geoLatitude);
+}
+
 BirthTexts birthTexts(const core::Chart& chart)
 {
-    const core::Identity& identity = chart.identity;
     BirthTexts texts{cleanText(chart.timeText, kTimeLength), cleanText(chart.zoneText, kZoneLength),
-                     cleanUnquoted(identity.longitudeText, kLongitudeLength),
-                     cleanUnquoted(identity.latitudeText, kLatitudeLength)};
+                     longitudeTextOf(chart), latitudeTextOf(chart)};
     if (texts.time.empty() || !standsFor(readTimeText(texts.time), chart.time.localTime)) {
         texts.time = timeText(chart.time.localTime);
     }
     if (texts.zone.empty() || !standsFor(readZoneText(texts.zone), chart.zone)) {
         texts.zone = zoneText(chart.zone);
-    }
-    if (texts.longitude.empty() ||
-        !standsFor(readLongitudeText(texts.longitude), chart.geoLongitude)) {
-        texts.longitude = longitudeText(chart.geoLongitude);
-    }
-    if (texts.latitude.empty() || !standsFor(readLatitudeText(texts.latitude), chart.geoLatitude)) {
-        texts.latitude = latitudeText(chart.geoLatitude);
     }
     return texts;
 }

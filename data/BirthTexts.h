@@ -50,6 +50,10 @@ struct BirthTexts
 /// the others stay as they were typed.
 [[nodiscard]] BirthTexts birthTexts(const core::Chart& chart);
 
+/// One of these texts.
+[[nodiscard]] std::wstring longitudeTextOf(const core::Chart& chart);
+[[nodiscard]] std::wstring latitudeTextOf(const core::Chart& chart);
+
 /// Stores these texts in the record.
 void refreshBirthTexts(core::Chart& chart);
 

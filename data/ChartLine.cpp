@@ -25,11 +25,15 @@ constexpr std::wstring_view kLineBreak = L"\r\n";
 
 void clearRecord(core::Chart& chart)
 {
-    chart = core::Chart{};
-    chart.time.year = 0;
-    chart.time.month = 0;
-    chart.time.day = 0;
-    chart.time.localTime = 0.0;
+    static const core::Chart kCleared = [] {
+        core::Chart empty;
+        empty.time.year = 0;
+        empty.time.month = 0;
+        empty.time.day = 0;
+        empty.time.localTime = 0.0;
+        return empty;
+    }();
+    chart = kCleared;
 }
 
 // The dates of a line, kept until its order is known.
@@ -92,6 +96,10 @@ void readNotes(FieldReader& fields, core::Identity& identity)
 void readEvents(FieldReader& fields, core::Identity& identity, WrittenDates& dates)
 {
     for (std::size_t i = 0; i < identity.events.size() && !fields.isShort(); ++i) {
+        if (fields.rest().starts_with('\t')) {
+            fields.skipText(1);
+            continue;
+        }
         core::LifeEvent& event = identity.events[i];
         WrittenDate& date = dates.events[i];
         event.name = fields.widePart(kEventNameLength);

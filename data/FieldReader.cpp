@@ -61,7 +61,8 @@ std::string_view cutCharacters(std::string_view utf8, std::size_t most)
 
 std::wstring wideField(std::string_view bytes)
 {
-    std::wstring text = core::fromFileBytes(bytes);
+    std::wstring text =
+        isAscii(bytes) ? std::wstring(bytes.begin(), bytes.end()) : core::fromFileBytes(bytes);
     std::replace_if(text.begin(), text.end(), control, L' ');
     return text;
 }

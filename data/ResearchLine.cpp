@@ -24,7 +24,6 @@ using core::at;
 
 constexpr std::array<int, 10> kSpeedPoints = {1, 2, 3, 4, 5, 6, 7, 32, 33, 34};
 constexpr std::array<int, 10> kMotionPoints = {3, 4, 5, 6, 7, 8, 9, 32, 33, 34};
-constexpr int kPlaces = 6;
 constexpr double kNoTime = -1.0;
 constexpr double kRounding = 1.0e-6;
 
@@ -41,6 +40,17 @@ int nakshatraNumber(double longitude)
 class ResearchWriter
 {
 public:
+    ResearchWriter()
+    {
+        constexpr std::size_t kUsualLength = 1024;
+        line_.reserve(kUsualLength);
+    }
+
+    void letter(wchar_t value)
+    {
+        line_ += char(value);
+        line_ += '\t';
+    }
     void text(const std::wstring& value)
     {
         // TABs would shift the fields; what else a name may hold does no harm here.
@@ -50,11 +60,13 @@ public:
     }
     void integer(int value)
     {
-        line_ += std::to_string(value) + '\t';
+        line_ += std::to_string(value);
+        line_ += '\t';
     }
     void number(double value)
     {
-        line_ += fixedDecimals(value, kPlaces) + '\t';
+        appendSixDecimals(line_, value);
+        line_ += '\t';
     }
     [[nodiscard]] std::string&& take()
     {
@@ -152,7 +164,6 @@ std::optional<double> clockTime(double hours)
 std::string FormatResearchLine(const core::Chart& chart)
 {
     const core::Identity& identity = chart.identity;
-    const BirthTexts texts = birthTexts(chart);
     ResearchWriter line;
     line.text(chart.name);
     line.text(identity.occupation);
@@ -174,7 +185,7 @@ std::string FormatResearchLine(const core::Chart& chart)
         line.number(at(chart.speed, point));
     }
     for (const int point : kMotionPoints) {
-        line.text(std::wstring(1, core::motionLetter(at(chart.motion, point))));
+        line.letter(core::motionLetter(at(chart.motion, point)));
     }
     line.integer(signNumber(chart.longitude[core::kGulika]));
     line.integer(core::truncated(chart.longitude[core::kGulika] * 60.0));
@@ -182,8 +193,8 @@ std::string FormatResearchLine(const core::Chart& chart)
     line.text(identity.sex);
     line.number(chart.geoLongitude);
     line.number(chart.geoLatitude);
-    line.text(texts.latitude);
-    line.text(texts.longitude);
+    line.text(latitudeTextOf(chart));
+    line.text(longitudeTextOf(chart));
     line.number(chart.localSiderealTime);
     line.number(chart.midheaven);
     line.number(chart.time.localTime);
@@ -192,7 +203,7 @@ std::string FormatResearchLine(const core::Chart& chart)
     line.number(chart.zone);
     line.number(chart.daylightSaving);
     line.number(chart.time.dayCount);
-    line.text(L" ");
+    line.letter(L' ');
     return line.take();
 }
 

@@ -4,6 +4,7 @@
 #include "data/BirthTexts.h"
 #include "data/CheckDatabaseLine.h"
 #include "data/DatabaseMessages.h"
+#include "data/DecimalText.h"
 #include "data/ResearchLabels.h"
 #include "data/ResearchLine.h"
 #include "data/ResearchRebuild.h"
@@ -70,6 +71,28 @@ TEST(ResearchLine, WritesTheExactFields)
               "R\tM\tD\tF\t \t \t \t \t \t \t"
               "4\t6030\t23.500000\tF\t77.250000\t-8.500000\t 8S30' 0\"\t 77E15' 0\"\t3.125000\t"
               "271.062500\t14.250000\t6.500000\t-1.000000\t5.500000\t1.000000\t27456.750000\t \t");
+}
+
+TEST(ResearchLine, FastDecimalsAreThoseOfTheFormat)
+{
+    constexpr unsigned kSeed = 9;
+    RandomRecords numbers(kSeed);
+    std::vector<double> values = {0.0,       -0.0,        0.0000005, 0.0000015, 0.5,
+                                  1.0000005, 359.9999995, 2.5e-7,    1e8,       123456789.9999999,
+                                  1e9,       1e300,       -1e-9,     0.9999999, 1e-300};
+    for (int i = 0; i < 20000; ++i) {
+        values.push_back(numbers.whole(-360'000'000, 360'000'000) / 1.0e6);
+        values.push_back(numbers.whole(-360'000'000, 360'000'000) / 0.77e6);
+        values.push_back((2 * numbers.whole(0, 1 << 29) + 1) / 128.0 / 15625.0);
+    }
+    for (const double value : values) {
+        std::string fast;
+        appendSixDecimals(fast, value);
+        EXPECT_EQ(fast, fixedDecimals(value, 6));
+        if (testing::Test::HasFailure()) {
+            break;
+        }
+    }
 }
 
 TEST(ResearchLine, ReadsBackWhatItHolds)
