@@ -65,7 +65,7 @@ constexpr std::array<Term, 13> kTerms = {{
 }};
 // clang-format on
 
-constexpr double kEpoch1950 = 0.5; // centuries from 1900
+constexpr double kEpoch1950 = 0.5;                                // centuries from 1900
 constexpr double kNodeSpeed = kNode.rate / core::kDaysPerCentury; // degrees a day
 constexpr double kInclination = 5.128; // degrees, the first term of the latitude
 

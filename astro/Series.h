@@ -34,8 +34,9 @@ struct SeriesBlock
 struct SeriesEntry
 {
     std::array<SeriesBlock, kSeriesBlocks> blocks = {};
-    std::size_t first = 0;  ///< index of the entry's first term
-    std::size_t length = 0; ///< number of its terms, padded with terms of amplitude 0 to whole lanes
+    std::size_t first = 0; ///< index of the entry's first term
+    std::size_t length =
+        0; ///< number of its terms, padded with terms of amplitude 0 to whole lanes
 };
 
 struct Series
