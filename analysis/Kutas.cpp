@@ -112,8 +112,8 @@ bool goodTara(int count)
 
 std::wstring taraText(int count)
 {
-    return std::to_wstring(count) + L" stars, remainder " + std::to_wstring(count % 9) + L", " +
-           (goodTara(count) ? L"good" : L"bad");
+    return std::to_wstring(count) + (count == 1 ? L" star" : L" stars") + L", remainder " +
+           std::to_wstring(count % 9) + L", " + (goodTara(count) ? L"good" : L"bad");
 }
 
 KutaScore tara(const MoonPlace& groom, const MoonPlace& bride)
