@@ -1,9 +1,7 @@
 #include "analysis/Arudhas.h"
 
-#include "analysis/SignPositions.h"
+#include "analysis/StorePoint.h"
 #include "core/Angles.h"
-
-#include <cmath>
 
 namespace kestrav::analysis
 {
@@ -88,11 +86,7 @@ void computeArudhaPoints(core::Chart& chart, const core::Settings& settings)
             at(chart.degreeInSign, point) = core::kNotComputed;
             return;
         }
-        // The sum must not round up into the next sign.
-        const double end = std::nextafter(sign * 30.0, 0.0);
-        const double degree = chart.degreeInSign[core::kAscendant];
-        at(chart.longitude, point) = std::fmin((sign - 1) * 30.0 + degree, end);
-        computeSignData(chart, point);
+        storePointInSign(chart, point, sign, chart.degreeInSign[core::kAscendant]);
     };
     store(core::kArudhaLagna, signs[0]);
     for (int house = 1; house <= kArudhaHouses; ++house) {
