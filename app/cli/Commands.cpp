@@ -30,19 +30,34 @@ std::span<const Command* const> allCommands()
     static const ListAyanamsasCommand listAyanamsas;
     static const SetAyanamsaCommand setAyanamsa;
     static const ResetAyanamsasCommand resetAyanamsas;
-    static const std::array<const Command*, 17> kAll = {
-        &chart,      &positions,     &houses,        &sun,         &vargas,        &dignities,
-        &strengths,  &ashtakavarga,  &points,        &match,       &listSettings,  &getSetting,
-        &setSetting, &resetSettings, &listAyanamsas, &setAyanamsa, &resetAyanamsas};
+    static const auto kAll = std::to_array<const Command*>({
+        &chart,
+        &positions,
+        &houses,
+        &sun,
+        &vargas,
+        &dignities,
+        &strengths,
+        &ashtakavarga,
+        &points,
+        &match,
+        &listSettings,
+        &getSetting,
+        &setSetting,
+        &resetSettings,
+        &listAyanamsas,
+        &setAyanamsa,
+        &resetAyanamsas,
+    });
     return kAll;
 }
 
 std::span<const GroupInfo> commandGroups()
 {
-    static constexpr std::array<GroupInfo, 2> kGroups = {{
+    static constexpr auto kGroups = std::to_array<GroupInfo>({
         {"settings", "Show and change the stored settings"},
         {"settings ayanamsa", "Show and change the table of ayanamsas"},
-    }};
+    });
     return kGroups;
 }
 
