@@ -110,65 +110,6 @@ void computeFromPositions(ComputedChart& computed, const GivenPositions& positio
     analysis::analyseSigns(chart, computed.settings);
 }
 
-// Settings and data of a call that computes.
-class Computer
-{
-public:
-    static std::optional<Computer> open(const Arguments& arguments, Console& console,
-                                        ExitCode& code)
-    {
-        const std::optional<core::Settings> settings = settingsOfCall(arguments, console, code);
-        if (!settings) {
-            return std::nullopt;
-        }
-        astro::LoadResult loaded = astro::LoadSeries();
-        if (!loaded.ok()) {
-            reportLoadFailure(loaded, console);
-            code = ExitCode::Failed;
-            return std::nullopt;
-        }
-        return Computer(*settings, std::move(*loaded.data));
-    }
-
-    std::optional<ComputedChart> compute(BirthData birth, Console& console, ExitCode& code) const
-    {
-        for (const std::string& warning : birth.warnings) {
-            console.warning(warning);
-        }
-        ComputedChart computed;
-        computed.chart = std::move(birth.chart);
-        computed.settings = settings_;
-        computed.hasPlace = birth.hasPlace;
-        astro::EphemerisContext context(data_.series);
-        if (!birth.positionsFile) {
-            computeFromBirthData(computed, context);
-            return computed;
-        }
-        computed.positionsFile = *birth.positionsFile;
-        const core::Result<GivenPositions> positions = readPositionsFile(computed.positionsFile);
-        if (!positions) {
-            console.error(positions.error().text());
-            code = ExitCode::Failed;
-            return std::nullopt;
-        }
-        computeFromPositions(computed, positions.value(), context);
-        return computed;
-    }
-
-    [[nodiscard]] const astro::MatchingTables& tables() const
-    {
-        return data_.matching;
-    }
-
-private:
-    Computer(core::Settings settings, astro::ProgramData data)
-        : settings_(settings), data_(std::move(data))
-    {}
-
-    core::Settings settings_;
-    astro::ProgramData data_;
-};
-
 std::optional<BirthData> birthData(const Arguments& arguments, PlaceNeed need,
                                    std::string_view prefix, Console& console, ExitCode& code)
 {
@@ -183,6 +124,47 @@ std::optional<BirthData> birthData(const Arguments& arguments, PlaceNeed need,
 
 } // namespace
 
+std::optional<CallData> openCall(const Arguments& arguments, Console& console, ExitCode& code)
+{
+    const std::optional<core::Settings> settings = settingsOfCall(arguments, console, code);
+    if (!settings) {
+        return std::nullopt;
+    }
+    astro::LoadResult loaded = astro::LoadSeries();
+    if (!loaded.ok()) {
+        reportLoadFailure(loaded, console);
+        code = ExitCode::Failed;
+        return std::nullopt;
+    }
+    return CallData{*settings, std::move(*loaded.data)};
+}
+
+std::optional<ComputedChart> computeChart(const CallData& call, BirthData birth, Console& console,
+                                          ExitCode& code)
+{
+    for (const std::string& warning : birth.warnings) {
+        console.warning(warning);
+    }
+    ComputedChart computed;
+    computed.chart = std::move(birth.chart);
+    computed.settings = call.settings;
+    computed.hasPlace = birth.hasPlace;
+    astro::EphemerisContext context(call.data.series);
+    if (!birth.positionsFile) {
+        computeFromBirthData(computed, context);
+        return computed;
+    }
+    computed.positionsFile = *birth.positionsFile;
+    const core::Result<GivenPositions> positions = readPositionsFile(computed.positionsFile);
+    if (!positions) {
+        console.error(positions.error().text());
+        code = ExitCode::Failed;
+        return std::nullopt;
+    }
+    computeFromPositions(computed, positions.value(), context);
+    return computed;
+}
+
 std::optional<ComputedChart> computeFromArguments(const Arguments& arguments, PlaceNeed need,
                                                   Console& console, ExitCode& code)
 {
@@ -190,8 +172,8 @@ std::optional<ComputedChart> computeFromArguments(const Arguments& arguments, Pl
     if (!birth) {
         return std::nullopt;
     }
-    const std::optional<Computer> computer = Computer::open(arguments, console, code);
-    return computer ? computer->compute(*birth, console, code) : std::nullopt;
+    const std::optional<CallData> call = openCall(arguments, console, code);
+    return call ? computeChart(*call, *birth, console, code) : std::nullopt;
 }
 
 std::optional<ComputedPair> computePairFromArguments(const Arguments& arguments, Console& console,
@@ -200,17 +182,17 @@ std::optional<ComputedPair> computePairFromArguments(const Arguments& arguments,
     const auto first = birthData(arguments, PlaceNeed::Optional, kOwnChart, console, code);
     const auto second =
         first ? birthData(arguments, PlaceNeed::Optional, kSecondChart, console, code) : first;
-    const auto computer = second ? Computer::open(arguments, console, code) : std::nullopt;
-    if (!computer) {
+    const auto call = second ? openCall(arguments, console, code) : std::nullopt;
+    if (!call) {
         return std::nullopt;
     }
-    std::optional<ComputedChart> one = computer->compute(*first, console, code);
+    std::optional<ComputedChart> one = computeChart(*call, *first, console, code);
     std::optional<ComputedChart> other =
-        one ? computer->compute(*second, console, code) : std::nullopt;
+        one ? computeChart(*call, *second, console, code) : std::nullopt;
     if (!other) {
         return std::nullopt;
     }
-    return ComputedPair{std::move(*one), std::move(*other), computer->tables()};
+    return ComputedPair{std::move(*one), std::move(*other), call->data.matching};
 }
 
 } // namespace kestrav::cli

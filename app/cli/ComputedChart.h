@@ -25,6 +25,13 @@ struct ComputedChart
     std::optional<double> upperCulmination; ///< of the Sun on the civil date, local hours
 };
 
+/// What a call that computes works with.
+struct CallData
+{
+    core::Settings settings;
+    astro::ProgramData data;
+};
+
 /// Two charts computed with the same settings.
 struct ComputedPair
 {
@@ -32,6 +39,16 @@ struct ComputedPair
     ComputedChart second;
     astro::MatchingTables tables;
 };
+
+/// Reads the settings and loads the program data file. After a failure, which has been reported
+/// with its exit code in `code`, there is nothing.
+[[nodiscard]] std::optional<CallData> openCall(const Arguments& arguments, Console& console,
+                                               ExitCode& code);
+
+/// Computes and analyses a chart, after the warnings about its birth data. Nothing after a failure,
+/// as above.
+[[nodiscard]] std::optional<ComputedChart> computeChart(const CallData& call, BirthData birth,
+                                                        Console& console, ExitCode& code);
 
 /// Reads birth data or positions and settings, loads the program data file, computes and analyses.
 /// After a failure, which has been reported with its exit code in `code`, there is nothing.
