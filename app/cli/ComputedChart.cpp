@@ -10,6 +10,7 @@
 #include "app/cli/Console.h"
 #include "app/cli/PositionsFile.h"
 #include "astro/Houses.h"
+#include "astro/RiseSet.h"
 #include "core/FileText.h"
 #include "core/Locations.h"
 

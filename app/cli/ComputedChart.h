@@ -4,10 +4,8 @@
 #include "app/cli/Arguments.h"
 #include "app/cli/BirthData.h"
 #include "app/cli/Command.h"
+#include "app/present/ComputedChart.h"
 #include "astro/DataFile.h"
-#include "astro/RiseSet.h"
-#include "core/Chart.h"
-#include "core/Settings.h"
 
 #include <optional>
 #include <string>
@@ -15,15 +13,7 @@
 namespace kestrav::cli
 {
 
-struct ComputedChart
-{
-    core::Chart chart; ///< computed and analysed
-    core::Settings settings;
-    bool hasPlace = false;     ///< without it there are no houses and no sunrise
-    std::string positionsFile; ///< the file of a chart of bare positions, which has no moment
-    std::optional<core::VedicDay> day;      ///< the day running; none near the poles
-    std::optional<double> upperCulmination; ///< of the Sun on the civil date, local hours
-};
+using present::ComputedChart;
 
 /// What a call that computes works with.
 struct CallData

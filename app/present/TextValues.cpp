@@ -1,4 +1,4 @@
-#include "app/cli/TextValues.h"
+#include "app/present/TextValues.h"
 
 #include "core/Angles.h"
 #include "core/PointNames.h"
@@ -10,7 +10,7 @@
 #include <cmath>
 #include <system_error>
 
-namespace kestrav::cli
+namespace kestrav::present
 {
 
 namespace
@@ -114,4 +114,4 @@ int padaOf(double position)
     return int(std::floor((position - std::floor(position)) * 4.0)) + 1;
 }
 
-} // namespace kestrav::cli
+} // namespace kestrav::present

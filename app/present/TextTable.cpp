@@ -1,12 +1,12 @@
-#include "app/cli/TextTable.h"
+#include "app/present/TextTable.h"
 
-#include "app/cli/TextValues.h"
+#include "app/present/TextValues.h"
 
 #include <algorithm>
 #include <cassert>
 #include <cstddef>
 
-namespace kestrav::cli
+namespace kestrav::present
 {
 
 namespace
@@ -82,4 +82,4 @@ std::wstring LabelledLines::text() const
     return text;
 }
 
-} // namespace kestrav::cli
+} // namespace kestrav::present

@@ -1,0 +1,23 @@
+// A computed chart with what its presentation needs to know beside it.
+#pragma once
+
+#include "core/Chart.h"
+#include "core/Settings.h"
+
+#include <optional>
+#include <string>
+
+namespace kestrav::present
+{
+
+struct ComputedChart
+{
+    core::Chart chart; ///< computed and analysed
+    core::Settings settings;
+    bool hasPlace = false;     ///< without it there are no houses and no sunrise
+    std::string positionsFile; ///< the file of a chart of bare positions, which has no moment
+    std::optional<core::VedicDay> day;      ///< the day running; none near the poles
+    std::optional<double> upperCulmination; ///< of the Sun on the civil date, local hours
+};
+
+} // namespace kestrav::present
