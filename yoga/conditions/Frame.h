@@ -1,0 +1,115 @@
+// One chart as conditions see it: from an analysed chart, or from the fields of a research line
+// that are asked for.
+#pragma once
+
+#include "analysis/Ashtakavarga.h"
+#include "analysis/Benefics.h"
+#include "analysis/FunctionalNature.h"
+#include "analysis/Shadbala.h"
+#include "core/Chart.h"
+#include "core/Settings.h"
+#include "yoga/Keywords.h"
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string_view>
+
+namespace kestrav::yoga
+{
+
+class Frame
+{
+public:
+    /// The settings must outlive the object; settingsChanged tells of a change.
+    explicit Frame(const core::Settings& settings);
+
+    void clear();
+    void setChart(const core::Chart& chart);
+    bool setLine(std::string_view line);
+    void settingsChanged(bool asComputed);
+
+    [[nodiscard]] bool exists() const
+    {
+        return source_ != Source::None;
+    }
+
+    /// Sign 1 to 12 of a point 0 to 62 in a divisional chart; 0 when it has none there.
+    [[nodiscard]] int sign(int point, int varga);
+
+    /// Longitude in a divisional chart, 0 to under 360, or a negative number. Outside the rashi it
+    /// is made of the sign and the position in it.
+    [[nodiscard]] double longitude(int point, int varga);
+
+    [[nodiscard]] double nakshatraPosition(int point);
+
+    /// The rank of a dignity, PlainWord from kWordDebilitated to kWordExalted; nothing for points
+    /// without dignity.
+    [[nodiscard]] std::optional<PlainWord> dignity(int point, int varga);
+
+    [[nodiscard]] bool retrograde(int point);
+    [[nodiscard]] bool combust(int planet);
+
+    /// The lord of a sign; with the setting of co-lords the stronger one.
+    [[nodiscard]] int lordOfSign(int sign, int varga);
+
+    [[nodiscard]] const analysis::NaturalBenefics& benefics();
+    [[nodiscard]] const analysis::NatureTable& natures();
+    /// The planet that has a chara karaka's place in the list of eight, 0 (Atma) to 7 (Dara); 0
+    /// when there is none, as Pitri among seven.
+    [[nodiscard]] int karaka(int place);
+    [[nodiscard]] const analysis::ShadbalaTable& shadbala();
+    [[nodiscard]] const analysis::Ashtakavarga& ashtakavarga(int varga);
+
+    /// The planets 1 to 9 of a set, bit n for planet n.
+    [[nodiscard]] std::uint32_t members(const SetWord& word, int varga);
+
+    /// The chart with the positions of all points that the source has, its relationships and
+    /// combustions, and the placements of one divisional chart.
+    [[nodiscard]] const core::Chart& chart(int varga = core::kRashi);
+
+    /// Whether the source is a whole chart.
+    [[nodiscard]] bool isWhole() const
+    {
+        return source_ == Source::Chart;
+    }
+    /// The sex of the native: "M", "F" or empty.
+    [[nodiscard]] char sex() const;
+
+private:
+    enum class Source
+    {
+        None,
+        Chart,
+        Line,
+    };
+
+    void forget();
+    void readPositions();
+    void prepareVarga(int varga);
+    void prepareArudhas();
+    void prepareRelations();
+    [[nodiscard]] std::uint32_t dynamicMembers(PlanetSet set, int varga);
+    [[nodiscard]] std::uint32_t lordsOfHouses(std::uint32_t houses, int varga);
+    [[nodiscard]] std::uint32_t cluster(int varga);
+
+    const core::Settings& settings_;
+    Source source_ = Source::None;
+    const core::Chart* given_ = nullptr;   ///< the chart that was set
+    const core::Chart* current_ = nullptr; ///< it, or its copy under another option
+    std::unique_ptr<core::Chart> own_;     ///< that copy, or the positions of a research line
+    std::string_view line_;
+    core::PointArray<int> rashi_ = {};
+    bool positionsRead_ = false;
+    bool arudhasReady_ = false;
+    bool relationsReady_ = false;
+    std::uint32_t vargasReady_ = 0;
+    std::optional<analysis::NaturalBenefics> benefics_;
+    std::optional<analysis::NatureTable> natures_;
+    std::optional<std::array<int, 8>> karakas_;
+    std::optional<analysis::ShadbalaTable> shadbala_;
+    std::optional<analysis::Ashtakavarga> ashtakavarga_;
+};
+
+} // namespace kestrav::yoga
