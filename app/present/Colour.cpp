@@ -26,6 +26,7 @@ constexpr std::array<ColourRow, kColourRoles> kColours = {{
     {ColourRole::AscendantCell, 0xFFF4DC, 0x35301F, 0xFFFFFF},
     {ColourRole::Border,        0x5A4A35, 0xB9A98C, 0x000000},
     {ColourRole::Division,      0x736B5E, 0x9A9184, 0x606060},
+    {ColourRole::Leader,        0x736B5E, 0x9A9184, 0x606060},
     {ColourRole::Label,         0x6B6357, 0xA9A194, 0x505050},
     {ColourRole::Text,          0x1B1B1B, 0xEDEDED, 0x000000},
     {ColourRole::Ascendant,     0xA31515, 0xFF9C8F, 0x000000},

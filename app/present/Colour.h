@@ -14,7 +14,8 @@ enum class ColourRole : std::uint8_t
     Panel,         ///< the middle of a diagram, with name and date
     AscendantCell, ///< the cell that holds the ascendant, where signs stand still
     Border,        ///< outlines of cells
-    Division,      ///< lines inside a cell, leader lines
+    Division,      ///< lines inside a cell
+    Leader,        ///< from a degree of the circle to what stands there
     Label,         ///< numbers of houses and signs
     Text,          ///< planets, and texts in general
     Ascendant,
@@ -25,7 +26,7 @@ enum class ColourRole : std::uint8_t
     Aspect,
 };
 
-inline constexpr int kColourRoles = 13;
+inline constexpr int kColourRoles = 14;
 
 enum class ColourScheme : std::uint8_t
 {

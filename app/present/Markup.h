@@ -1,0 +1,19 @@
+// Texts made fit for HTML and Rich Text Format.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace kestrav::present
+{
+
+/// The text in UTF-8 with "&", "<", ">" and quotes as entities, so that it can stand in an element
+/// or in a quoted attribute. Control characters, which XML and HTML have no place for, become
+/// blanks.
+[[nodiscard]] std::string htmlText(std::wstring_view text);
+
+/// The text in ASCII with the escapes of Rich Text Format; line breaks become new lines of the same
+/// paragraph and tabs stay tabs.
+[[nodiscard]] std::string rtfText(std::wstring_view text);
+
+} // namespace kestrav::present

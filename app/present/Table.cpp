@@ -1,0 +1,60 @@
+#include "app/present/Table.h"
+
+#include "app/present/TextValues.h"
+
+#include <algorithm>
+#include <cassert>
+
+namespace kestrav::present
+{
+
+void Table::add(Row row)
+{
+    assert(row.size() == columns.size());
+    rows.push_back(std::move(row));
+}
+
+bool Table::withoutHeadings() const
+{
+    return std::all_of(columns.begin(), columns.end(),
+                       [](const Column& column) { return column.heading.empty(); });
+}
+
+Table labelledTable(std::string id, std::wstring title)
+{
+    Table table;
+    table.id = std::move(id);
+    table.title = std::move(title);
+    table.columns.resize(2);
+    return table;
+}
+
+int compareCells(const Cell& one, const Cell& other)
+{
+    if (one.sortKey.has_value() != other.sortKey.has_value()) {
+        return one.sortKey ? -1 : 1;
+    }
+    if (one.sortKey && *one.sortKey != *other.sortKey) {
+        return *one.sortKey < *other.sortKey ? -1 : 1;
+    }
+    return one.text.compare(other.text);
+}
+
+Cell pointCell(int point, int varga)
+{
+    return {pointLabel(point), double(point), {Subject::Point, point, varga}};
+}
+
+Cell numberCell(const std::optional<double>& value, int decimals)
+{
+    Cell cell(numberOrNone(value, decimals));
+    cell.sortKey = value;
+    return cell;
+}
+
+Cell integerCell(int value)
+{
+    return {std::to_wstring(value), double(value)};
+}
+
+} // namespace kestrav::present
