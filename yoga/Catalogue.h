@@ -39,6 +39,9 @@ struct Parameter
 
 inline constexpr std::size_t kMaxParameters = 6;
 
+/// Numbers of kinds are above 0 and below this.
+inline constexpr int kMaxKindNumber = 128;
+
 /// What a condition reads of a chart. Every level contains the ones before it.
 enum class Needs : int
 {

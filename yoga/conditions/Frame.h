@@ -51,8 +51,6 @@ public:
     [[nodiscard]] bool retrograde(int point);
     [[nodiscard]] bool combust(int planet);
 
-    /// The lord of a sign; with the setting of co-lords the stronger one.
-    [[nodiscard]] int lordOfSign(int sign, int varga);
 
     [[nodiscard]] const analysis::NaturalBenefics& benefics();
     [[nodiscard]] const analysis::NatureTable& natures();
