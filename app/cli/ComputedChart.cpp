@@ -6,6 +6,7 @@
 #include "analysis/SignPositions.h"
 #include "analysis/SpecialPoints.h"
 #include "analysis/StorePoint.h"
+#include "app/cli/ChartSource.h"
 #include "app/cli/CommandSettings.h"
 #include "app/cli/Console.h"
 #include "app/cli/PositionsFile.h"
@@ -143,11 +144,15 @@ std::optional<CallData> openCall(const Arguments& arguments, Console& console, E
 std::optional<ComputedChart> computeChart(const CallData& call, BirthData birth, Console& console,
                                           ExitCode& code)
 {
+    if (!completeBirthData(birth, call.settings, console, code)) {
+        return std::nullopt;
+    }
     for (const std::string& warning : birth.warnings) {
         console.warning(warning);
     }
     ComputedChart computed;
     computed.chart = std::move(birth.chart);
+    computed.chart.place = placeLabel(computed.chart);
     computed.settings = call.settings;
     computed.hasPlace = birth.hasPlace;
     astro::EphemerisContext context(call.data.series);

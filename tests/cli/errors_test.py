@@ -14,7 +14,7 @@ class Usage(ProgramTest):
                 ("--date, --time and --zone are missing", place),
                 ("--zone is missing", moment[:4] + place),
                 ("--lon and --lat are missing", moment),
-                ("'Pune' is only a label", moment + ["--place", "Pune"]),
+                ("no place 'Nowhereville'", moment + ["--place", "Nowhereville"]),
                 ("--lon is missing", moment + ["--lat", "1"]),
                 ("2001-02-30.* does not exist", ["--date", "2001-02-30"] + moment[2:] + place),
                 ("1582-10-10.* does not exist", ["--date", "1582-10-10"] + moment[2:] + place),
