@@ -36,6 +36,11 @@ public:
     /// The text of the first child of that name; empty when there is none.
     [[nodiscard]] std::string childText(std::string_view name) const;
     [[nodiscard]] long line() const;
+    /// For what this view does not show.
+    [[nodiscard]] const _xmlNode* handle() const
+    {
+        return node_;
+    }
 
 private:
     const _xmlNode* node_;
