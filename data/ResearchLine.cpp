@@ -159,6 +159,36 @@ std::optional<double> clockTime(double hours)
     return hours < 0.0 ? std::nullopt : std::optional(hours);
 }
 
+// The fields from the occupation to the motion letters.
+void readPoints(ResearchReader& fields, core::Chart& chart)
+{
+    for (int skipped = 0; skipped < 3; ++skipped) {
+        fields.field();
+    }
+    std::array<int, kResearchPoints.size()> signs{};
+    std::array<int, kResearchPoints.size()> navamshas{};
+    std::array<int, kResearchPoints.size()> nakshatras{};
+    for (auto* const group : {&signs, &navamshas, &nakshatras}) {
+        for (int& value : *group) {
+            value = fields.integer();
+        }
+    }
+    for (std::size_t i = 0; i < kResearchPoints.size(); ++i) {
+        const int point = kResearchPoints[i];
+        storePoint(chart, point, fields.number(), signs[i], nakshatras[i]);
+        if (navamshas[i] >= 1 && navamshas[i] <= 12) {
+            at(chart.navamshaSign, point) = navamshas[i];
+        }
+    }
+    for (const int point : kSpeedPoints) {
+        at(chart.speed, point) = fields.number();
+    }
+    for (const int point : kMotionPoints) {
+        at(chart.motion, point) = motionOf(fields.field());
+        at(chart.retrograde, point) = at(chart.motion, point) == core::Motion::Retrograde;
+    }
+}
+
 } // namespace
 
 std::string FormatResearchLine(const core::Chart& chart)
@@ -219,31 +249,7 @@ bool ParseResearchLine(std::string_view line, core::Chart& chart)
     core::Identity& identity = chart.identity;
     ResearchReader fields(line);
     chart.name = fields.text();
-    for (int skipped = 0; skipped < 3; ++skipped) {
-        fields.field();
-    }
-    std::array<int, kResearchPoints.size()> signs{};
-    std::array<int, kResearchPoints.size()> navamshas{};
-    std::array<int, kResearchPoints.size()> nakshatras{};
-    for (auto* const group : {&signs, &navamshas, &nakshatras}) {
-        for (int& value : *group) {
-            value = fields.integer();
-        }
-    }
-    for (std::size_t i = 0; i < kResearchPoints.size(); ++i) {
-        const int point = kResearchPoints[i];
-        storePoint(chart, point, fields.number(), signs[i], nakshatras[i]);
-        if (navamshas[i] >= 1 && navamshas[i] <= 12) {
-            at(chart.navamshaSign, point) = navamshas[i];
-        }
-    }
-    for (const int point : kSpeedPoints) {
-        at(chart.speed, point) = fields.number();
-    }
-    for (const int point : kMotionPoints) {
-        at(chart.motion, point) = motionOf(fields.field());
-        at(chart.retrograde, point) = at(chart.motion, point) == core::Motion::Retrograde;
-    }
+    readPoints(fields, chart);
     fields.field();
     chart.longitude[core::kGulika] = core::Normalize360(fields.integer() / 60.0);
     analysis::computeSignData(chart, core::kGulika);
@@ -263,6 +269,14 @@ bool ParseResearchLine(std::string_view line, core::Chart& chart)
     chart.daylightSaving = core::truncated(fields.number());
     chart.time.dayCount = fields.number();
     fields.field();
+    return fields.complete();
+}
+
+bool ReadResearchPositions(std::string_view line, core::Chart& chart)
+{
+    ResearchReader fields(line);
+    fields.field();
+    readPoints(fields, chart);
     return fields.complete();
 }
 

@@ -27,6 +27,11 @@ inline constexpr std::array<int, 13> kResearchPoints = {0, 1, 2, 3, 4, 5, 6, 7, 
 /// when a field is missing; a field without its TAB counts as missing.
 [[nodiscard]] bool ParseResearchLine(std::string_view line, core::Chart& chart);
 
+/// Reads the positions, speeds and motions of the 13 points of a research line as ParseResearchLine
+/// does, and leaves all else of the record as it is. It allocates nothing. False when one of these
+/// fields is missing.
+[[nodiscard]] bool ReadResearchPositions(std::string_view line, core::Chart& chart);
+
 /// One field of a research line, 0 to 92; empty when there is none.
 [[nodiscard]] std::string_view researchField(std::string_view line, int index);
 
@@ -36,5 +41,6 @@ inline constexpr int kSignFields = 4;
 inline constexpr int kNavamshaFields = 17;
 inline constexpr int kNakshatraFields = 30;
 inline constexpr int kLongitudeFields = 43;
+inline constexpr int kSexField = 79;
 
 } // namespace kestrav::data
