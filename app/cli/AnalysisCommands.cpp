@@ -8,8 +8,13 @@
 #include "app/cli/SharedOptions.h"
 #include "app/cli/SpecialPointsOutput.h"
 #include "app/cli/StrengthJson.h"
-#include "app/cli/StrengthText.h"
 #include "app/cli/VargaOutput.h"
+#include "app/present/AshtakavargaTables.h"
+#include "app/present/ChartTables.h"
+#include "app/present/DignityTables.h"
+#include "app/present/SpecialPointTables.h"
+#include "app/present/StrengthTables.h"
+#include "app/present/VargaTables.h"
 #include "core/NumberText.h"
 
 #include <nlohmann/json.hpp>
@@ -58,29 +63,6 @@ core::Result<int> nameLetter(const Arguments& arguments)
     return *group;
 }
 
-// All that the strengths command shows.
-struct Strengths
-{
-    Strengths(const ComputedChart& computed, int letter)
-        : inputs(analysis::strengthInputs(computed.chart)),
-          shadbala(analysis::computeShadbala(computed.chart, inputs)),
-          houses(analysis::computeBhavaBala(computed.chart, shadbala)),
-          rashmis(analysis::computeRashmis(computed.chart, computed.settings)),
-          avasthas(analysis::computeAvasthas(computed.chart, inputs, letter, computed.settings)),
-          aspects(analysis::bodyAspects(computed.chart, computed.settings))
-    {
-        const auto onHouses = analysis::houseAspects(computed.chart, computed.settings);
-        aspects.insert(aspects.end(), onHouses.begin(), onHouses.end());
-    }
-
-    analysis::StrengthInputs inputs;
-    analysis::ShadbalaTable shadbala;
-    std::array<analysis::BhavaBala, 12> houses;
-    analysis::Rashmis rashmis;
-    std::array<analysis::Avasthas, 10> avasthas;
-    std::vector<analysis::Aspect> aspects;
-};
-
 analysis::Ashtakavarga ashtakavargaOf(const ComputedChart& computed, const Arguments& arguments)
 {
     const int varga = chosenVarga(arguments).value().value_or(core::kRashi);
@@ -109,10 +91,11 @@ void VargasCommand::addJson(Json& object, const ComputedChart& computed,
 std::wstring VargasCommand::text(const ComputedChart& computed, const Arguments& arguments) const
 {
     if (const std::optional<int> varga = chosenVarga(arguments).value()) {
-        return inputText(computed) + L"\n" + vargaText(computed, *varga);
+        return tablesText({present::birthTable(computed), present::vargaTable(computed, *varga)});
     }
-    return inputText(computed) + L"\n" + vargaSignsText(computed, placedPoints(computed)) + L"\n" +
-           vargaListText() + L"\n" + vimshopakaText(computed);
+    return tablesText({present::birthTable(computed),
+                       present::vargaSignsTable(computed, present::placedPoints(computed)),
+                       present::vargaListTable(), present::vimshopakaTable(computed)});
 }
 
 DignitiesCommand::DignitiesCommand()
@@ -131,8 +114,9 @@ void DignitiesCommand::addJson(Json& object, const ComputedChart& computed,
 std::wstring DignitiesCommand::text(const ComputedChart& computed,
                                     const Arguments& /*arguments*/) const
 {
-    return inputText(computed) + L"\n" + planetsText(computed) + L"\n" +
-           vargaDignitiesText(computed) + L"\n" + relationshipsText(computed);
+    return tablesText({present::birthTable(computed), present::planetsTable(computed),
+                       present::dignitiesTable(computed), present::naturalRelationshipsTable(),
+                       present::compoundRelationshipsTable(computed)});
 }
 
 StrengthsCommand::StrengthsCommand()
@@ -151,7 +135,7 @@ core::Result<void> StrengthsCommand::check(const Arguments& arguments) const
 void StrengthsCommand::addJson(Json& object, const ComputedChart& computed,
                                const Arguments& arguments) const
 {
-    const Strengths strengths(computed, nameLetter(arguments).value());
+    const present::Strengths strengths(computed, nameLetter(arguments).value());
     object["shadbala"] = shadbalaJson(strengths.shadbala);
     object["bhavaBala"] = bhavaBalaJson(strengths.houses);
     object["rashmis"] = rashmisJson(strengths.rashmis);
@@ -162,11 +146,13 @@ void StrengthsCommand::addJson(Json& object, const ComputedChart& computed,
 
 std::wstring StrengthsCommand::text(const ComputedChart& computed, const Arguments& arguments) const
 {
-    const Strengths strengths(computed, nameLetter(arguments).value());
-    return inputText(computed) + L"\n" + shadbalaText(strengths.shadbala, strengths.rashmis) +
-           notComputedNote(computed) + L"\n" + bhavaBalaText(strengths.houses) + L"\n" +
-           avasthasText(strengths.avasthas) + L"\n" + warsText(strengths.shadbala.wars) + L"\n" +
-           aspectsText(strengths.aspects);
+    const present::Strengths strengths(computed, nameLetter(arguments).value());
+    present::Table shadbala = present::shadbalaTable(strengths);
+    present::addNotComputedNote(shadbala, computed);
+    return tablesText({present::birthTable(computed), shadbala, present::bhavaBalaTable(strengths),
+                       present::avasthasTable(strengths), present::warsTable(strengths),
+                       present::bodyAspectsTable(strengths),
+                       present::houseAspectsTable(strengths)});
 }
 
 AshtakavargaCommand::AshtakavargaCommand()
@@ -188,7 +174,15 @@ void AshtakavargaCommand::addJson(Json& object, const ComputedChart& computed,
 std::wstring AshtakavargaCommand::text(const ComputedChart& computed,
                                        const Arguments& arguments) const
 {
-    return inputText(computed) + L"\n" + ashtakavargaText(ashtakavargaOf(computed, arguments));
+    const analysis::Ashtakavarga ashtakavarga = ashtakavargaOf(computed, arguments);
+    std::vector<present::Table> tables = {present::birthTable(computed),
+                                          present::ashtakavargaTable(ashtakavarga)};
+    if (ashtakavarga.reduced) {
+        tables.push_back(present::trikonaTable(ashtakavarga));
+        tables.push_back(present::ekadhipatyaTable(ashtakavarga));
+        tables.push_back(present::pindaTable(ashtakavarga));
+    }
+    return tablesText(tables);
 }
 
 PointsCommand::PointsCommand()
@@ -207,10 +201,12 @@ void PointsCommand::addJson(Json& object, const ComputedChart& computed,
 std::wstring PointsCommand::text(const ComputedChart& computed,
                                  const Arguments& /*arguments*/) const
 {
-    return inputText(computed) + L"\n" + pointsText(computed) + L"\n" +
-           specialPointsText(computed) + notComputedNote(computed) + L"\n" + yogiText(computed) +
-           L"\n" + karakasText(computed) + L"\n" + sphutasText(computed) + L"\n" +
-           sahamsText(computed);
+    present::Table points = present::sideBySide(present::specialPointsTable(computed));
+    present::addNotComputedNote(points, computed);
+    return tablesText({present::birthTable(computed), present::positionsTable(computed), points,
+                       present::yogiTable(computed), present::karakasTable(computed),
+                       present::sideBySide(present::sphutasTable(computed)),
+                       present::sideBySide(present::sahamsTable(computed))});
 }
 
 } // namespace kestrav::cli

@@ -1,15 +1,17 @@
 #include "app/cli/ChartCommands.h"
 
 #include "analysis/Ashtakavarga.h"
-#include "analysis/Shadbala.h"
 #include "app/cli/AshtakavargaOutput.h"
 #include "app/cli/ChartJson.h"
 #include "app/cli/ChartText.h"
-#include "app/cli/DignityOutput.h"
 #include "app/cli/SharedOptions.h"
-#include "app/cli/SpecialPointsOutput.h"
-#include "app/cli/StrengthText.h"
 #include "app/cli/VargaOutput.h"
+#include "app/present/AshtakavargaTables.h"
+#include "app/present/ChartTables.h"
+#include "app/present/DignityTables.h"
+#include "app/present/SpecialPointTables.h"
+#include "app/present/StrengthTables.h"
+#include "app/present/VargaTables.h"
 
 #include <nlohmann/json.hpp>
 
@@ -34,14 +36,14 @@ CommandInfo chartInfo(std::string_view name, std::string_view description)
 
 std::wstring analysisText(const ComputedChart& computed)
 {
-    const core::Chart& chart = computed.chart;
-    const analysis::ShadbalaTable shadbala =
-        analysis::computeShadbala(chart, analysis::strengthInputs(chart));
-    return specialPointsText(computed) + notComputedNote(computed) + L"\nDivisional charts\n" +
-           vargaSignsText(computed, mainPoints(computed)) + L"\n" + planetsText(computed) + L"\n" +
-           vimshopakaText(computed) + L"\n" +
-           ashtakavargaText(analysis::computeAshtakavarga(chart, core::kRashi, false)) + L"\n" +
-           karakasText(computed) + L"\n" + shadbalaTotalsText(shadbala);
+    present::Table points = present::sideBySide(present::specialPointsTable(computed));
+    present::addNotComputedNote(points, computed);
+    return tablesText({points, present::vargaSignsTable(computed, present::mainPoints(computed)),
+                       present::planetsTable(computed), present::vimshopakaTable(computed),
+                       present::ashtakavargaTable(
+                           analysis::computeAshtakavarga(computed.chart, core::kRashi, false)),
+                       present::karakasTable(computed),
+                       present::shadbalaTotalsTable(present::Strengths(computed, 0))});
 }
 
 } // namespace
@@ -68,9 +70,10 @@ void ChartCommand::addJson(Json& object, const ComputedChart& computed,
 
 std::wstring ChartCommand::text(const ComputedChart& computed, const Arguments& /*arguments*/) const
 {
-    return inputText(computed) + L"\n" + timeText(computed) + L"\n" + daylightText(computed) +
-           L"\n" + pointsText(computed) + L"\n" + housesText(computed) + L"\n" +
-           analysisText(computed);
+    return tablesText({present::birthTable(computed), present::timeTable(computed),
+                       present::daylightTable(computed), present::positionsTable(computed),
+                       present::housesSummary(computed), present::housesTable(computed)}) +
+           L"\n" + analysisText(computed);
 }
 
 PositionsCommand::PositionsCommand()
@@ -91,7 +94,8 @@ void PositionsCommand::addJson(Json& object, const ComputedChart& computed,
 std::wstring PositionsCommand::text(const ComputedChart& computed,
                                     const Arguments& /*arguments*/) const
 {
-    return inputText(computed) + L"\n" + timeText(computed) + L"\n" + pointsText(computed);
+    return tablesText({present::birthTable(computed), present::timeTable(computed),
+                       present::positionsTable(computed)});
 }
 
 HousesCommand::HousesCommand()
@@ -110,7 +114,8 @@ void HousesCommand::addJson(Json& object, const ComputedChart& computed,
 std::wstring HousesCommand::text(const ComputedChart& computed,
                                  const Arguments& /*arguments*/) const
 {
-    return inputText(computed) + L"\n" + timeText(computed) + L"\n" + housesText(computed);
+    return tablesText({present::birthTable(computed), present::timeTable(computed),
+                       present::housesSummary(computed), present::housesTable(computed)});
 }
 
 SunCommand::SunCommand()
@@ -127,7 +132,8 @@ void SunCommand::addJson(Json& object, const ComputedChart& computed,
 
 std::wstring SunCommand::text(const ComputedChart& computed, const Arguments& /*arguments*/) const
 {
-    return inputText(computed) + L"\n" + sunText(computed);
+    return tablesText({present::birthTable(computed), present::sunTable(computed),
+                       present::vedicDayTable(computed)});
 }
 
 } // namespace kestrav::cli

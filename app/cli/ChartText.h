@@ -1,32 +1,20 @@
-// The parts of the text output that describe a chart.
+// The tables of a computed chart as text.
 #pragma once
 
 #include "app/cli/ComputedChart.h"
+#include "app/present/Table.h"
 
 #include <string>
+#include <vector>
 
 namespace kestrav::cli
 {
 
-/// Name, place, date, time and coordinates, or the file of the positions.
+/// Name, date, time and place, or the file of positions.
 [[nodiscard]] std::wstring inputText(const ComputedChart& computed);
 
-/// Universal Time, Delta T, Julian day, ayanamsa and, with a place, sidereal time.
-[[nodiscard]] std::wstring timeText(const ComputedChart& computed);
-
-/// What "--" means in a chart of bare positions, or where no day runs; else nothing.
-[[nodiscard]] std::wstring notComputedNote(const ComputedChart& computed);
-
-/// Sunrise and sunset of the civil date to the minute, with a sentence where there is none.
-[[nodiscard]] std::wstring daylightText(const ComputedChart& computed);
-
-/// Sunrise, noon and sunset to the second, and the day running at the moment.
-[[nodiscard]] std::wstring sunText(const ComputedChart& computed);
-
-/// The table of the ascendant, when there is a place, and the bodies.
-[[nodiscard]] std::wstring pointsText(const ComputedChart& computed);
-
-/// House system, cusps and, for Placidus, the sandhis, with a sentence where some do not exist.
-[[nodiscard]] std::wstring housesText(const ComputedChart& computed);
+/// The tables one below the other with an empty line between them; those without rows and notes
+/// are left out.
+[[nodiscard]] std::wstring tablesText(const std::vector<present::Table>& tables);
 
 } // namespace kestrav::cli

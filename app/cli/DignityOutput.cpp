@@ -3,11 +3,8 @@
 #include "analysis/Dignities.h"
 #include "analysis/DignityTables.h"
 #include "analysis/FunctionalNature.h"
-#include "analysis/VargaNames.h"
 #include "analysis/Vargas.h"
-#include "app/cli/TextTable.h"
-#include "app/cli/TextValues.h"
-#include "core/PointNames.h"
+#include "app/present/TextValues.h"
 
 #include <nlohmann/json.hpp>
 
@@ -24,12 +21,6 @@ int displayOf(const ComputedChart& computed, int varga, int point)
     return analysis::shownDignity(computed.chart, point, varga, computed.settings);
 }
 
-std::wstring word(int display, bool shortForm)
-{
-    const std::wstring_view text = analysis::dignityWord(display, shortForm);
-    return std::wstring(text.substr(0, text.find_last_not_of(L' ') + 1));
-}
-
 Json dignityJson(const ComputedChart& computed, int varga, int point)
 {
     const int sign = analysis::signInVarga(computed.chart, varga, point);
@@ -40,27 +31,8 @@ Json dignityJson(const ComputedChart& computed, int varga, int point)
     object["sign"] = sign;
     object["code"] = analysis::vargaDignity(computed.chart, point, sign, varga, computed.settings);
     object["display"] = display;
-    object["word"] = textJson(word(display, false));
+    object["word"] = textJson(present::withoutEndBlanks(analysis::dignityWord(display, false)));
     return object;
-}
-
-// What planet feels for the other by a table of relationships.
-template <typename Relation>
-std::wstring relationTable(const std::wstring& heading, const Relation& relation)
-{
-    std::vector<TextTable::Column> columns = {{heading}};
-    for (int other = core::kSun; other <= core::kSaturn; ++other) {
-        columns.push_back({pointLabel(other)});
-    }
-    TextTable table(std::move(columns));
-    for (int planet = core::kSun; planet <= core::kSaturn; ++planet) {
-        std::vector<std::wstring> cells = {pointLabel(planet)};
-        for (int other = core::kSun; other <= core::kSaturn; ++other) {
-            cells.push_back(planet == other ? L"" : word(relation(planet, other) + 3, false));
-        }
-        table.add(std::move(cells));
-    }
-    return table.text();
 }
 
 template <typename Relation>
@@ -82,13 +54,6 @@ auto compoundOf(const core::Chart& chart)
     return [&chart](int planet, int other) {
         return at(at(chart.compound, planet), other);
     };
-}
-
-std::wstring reportLabel(const analysis::Nature& nature)
-{
-    const std::wstring_view label = analysis::natureReportLabel(nature);
-    const std::size_t first = label.find_first_not_of(L' ');
-    return first == std::wstring_view::npos ? L"" : std::wstring(label.substr(first));
 }
 
 } // namespace
@@ -128,46 +93,6 @@ Json functionalJson(const ComputedChart& computed)
         list.push_back(std::move(object));
     }
     return list;
-}
-
-std::wstring planetsText(const ComputedChart& computed)
-{
-    const core::Chart& chart = computed.chart;
-    const analysis::NatureTable natures = analysis::chartNatures(chart);
-    TextTable table(
-        {{L"Planet"}, {L"Sign"}, {L"Dignity"}, {L"Combust"}, {L"Nature"}, {L"For this ascendant"}});
-    for (int point = core::kSun; point <= core::kKetu; ++point) {
-        const analysis::Nature& nature = at(natures, point);
-        table.add({pointLabel(point), std::wstring(core::signNameLong(at(chart.rashi, point))),
-                   word(displayOf(computed, core::kRashi, point), false),
-                   at(chart.combust, point) ? L"combust" : L"",
-                   std::wstring(analysis::natureLabel(nature)), reportLabel(nature)});
-    }
-    return table.text();
-}
-
-std::wstring vargaDignitiesText(const ComputedChart& computed)
-{
-    std::vector<TextTable::Column> columns = {{L"Varga"}, {L""}};
-    for (int point = core::kSun; point <= core::kKetu; ++point) {
-        columns.push_back({pointLabel(point)});
-    }
-    TextTable table(std::move(columns));
-    for (int varga = 0; varga < core::kScoredVargas; ++varga) {
-        std::vector<std::wstring> cells = {L"D" + std::to_wstring(analysis::vargaDivision(varga)),
-                                           std::wstring(analysis::vargaName(varga))};
-        for (int point = core::kSun; point <= core::kKetu; ++point) {
-            cells.push_back(word(displayOf(computed, varga, point), true));
-        }
-        table.add(std::move(cells));
-    }
-    return table.text();
-}
-
-std::wstring relationshipsText(const ComputedChart& computed)
-{
-    return relationTable(L"Natural", analysis::naturalRelationship) + L"\n" +
-           relationTable(L"Compound", compoundOf(computed.chart));
 }
 
 } // namespace kestrav::cli

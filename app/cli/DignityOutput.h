@@ -1,10 +1,8 @@
-// Dignities, relationships and functional nature as text and JSON.
+// Dignities, relationships and functional nature as JSON.
 #pragma once
 
 #include "app/cli/ComputedChart.h"
 #include "app/cli/JsonValues.h"
-
-#include <string>
 
 namespace kestrav::cli
 {
@@ -18,13 +16,5 @@ namespace kestrav::cli
 
 /// Functional nature of Sun to Ketu for the ascendant.
 [[nodiscard]] Json functionalJson(const ComputedChart& computed);
-
-/// Dignity, combustion and functional nature of Sun to Ketu in the rashi.
-[[nodiscard]] std::wstring planetsText(const ComputedChart& computed);
-
-/// Dignities in the sixteen vargas, in short words.
-[[nodiscard]] std::wstring vargaDignitiesText(const ComputedChart& computed);
-
-[[nodiscard]] std::wstring relationshipsText(const ComputedChart& computed);
 
 } // namespace kestrav::cli

@@ -1,16 +1,9 @@
 #include "app/cli/VargaOutput.h"
 
-#include "analysis/Dignities.h"
 #include "analysis/VargaNames.h"
-#include "analysis/Vimshopaka.h"
-#include "app/cli/TextTable.h"
-#include "app/cli/TextValues.h"
-#include "core/PointNames.h"
-#include "core/TextForms.h"
+#include "app/present/VargaTables.h"
 
 #include <nlohmann/json.hpp>
-
-#include <algorithm>
 
 namespace kestrav::cli
 {
@@ -19,10 +12,8 @@ namespace
 {
 
 using core::at;
-using Align = TextTable::Align;
 
-// Points from here on have no placements.
-constexpr int kPlacedPoints = core::kPartOfFortune;
+using present::kPlacedPoints;
 
 bool hasDignity(int varga, int point)
 {
@@ -64,21 +55,6 @@ Json vargaJson(const core::Chart& chart, int varga)
     return object;
 }
 
-std::wstring boundaryNote(const core::Settings& settings)
-{
-    return L"* within " + std::to_wstring(settings.sandhiMinutes) +
-           L"' of the boundary of a part\n";
-}
-
-std::wstring dignityCell(const ComputedChart& computed, int varga, int point)
-{
-    if (point < core::kSun || point > core::kKetu) {
-        return {};
-    }
-    return std::wstring(analysis::dignityWord(
-        analysis::shownDignity(computed.chart, point, varga, computed.settings), false));
-}
-
 } // namespace
 
 core::Result<std::optional<int>> chosenVarga(const Arguments& arguments)
@@ -93,29 +69,6 @@ core::Result<std::optional<int>> chosenVarga(const Arguments& arguments)
                            "'; kestrav-cli vargas lists them"};
     }
     return varga;
-}
-
-std::wstring vargaHeading(int varga)
-{
-    return std::wstring(analysis::vargaName(varga)) + L" (D-" +
-           std::to_wstring(analysis::vargaDivision(varga)) + L"), " +
-           std::wstring(analysis::vargaMeaning(varga));
-}
-
-std::wstring vargaListText()
-{
-    TextTable table({{L"Index", Align::Right},
-                     {L"Division", Align::Right},
-                     {L"Name"},
-                     {L"Short"},
-                     {L"Meaning"}});
-    for (int varga = 0; varga < core::kVargaCount; ++varga) {
-        table.add({std::to_wstring(varga), std::to_wstring(analysis::vargaDivision(varga)),
-                   std::wstring(analysis::vargaName(varga)),
-                   std::wstring(analysis::vargaShortName(varga)),
-                   std::wstring(analysis::vargaMeaning(varga))});
-    }
-    return table.text();
 }
 
 Json vargasJson(const ComputedChart& computed, std::optional<int> varga)
@@ -140,85 +93,6 @@ Json vimshopakaJson(const ComputedChart& computed)
         list.push_back(std::move(object));
     }
     return list;
-}
-
-std::vector<int> placedPoints(const ComputedChart& computed)
-{
-    std::vector<int> points;
-    for (int point = 0; point < kPlacedPoints; ++point) {
-        if (computed.chart.computed(point)) {
-            points.push_back(point);
-        }
-    }
-    return points;
-}
-
-std::vector<int> mainPoints(const ComputedChart& computed)
-{
-    std::vector<int> points = placedPoints(computed);
-    const auto other = [](int point) {
-        return point > core::kPluto || (point > core::kKetu && point < core::kUranus);
-    };
-    points.erase(std::remove_if(points.begin(), points.end(), other), points.end());
-    return points;
-}
-
-std::wstring vargaSignsText(const ComputedChart& computed, const std::vector<int>& points)
-{
-    const core::Chart& chart = computed.chart;
-    std::vector<TextTable::Column> columns = {{L"Point"}};
-    for (int varga = 0; varga < core::kVargaCount; ++varga) {
-        columns.push_back({L"D" + std::to_wstring(analysis::vargaDivision(varga))});
-    }
-    TextTable table(std::move(columns), 1);
-    for (const int point : points) {
-        std::vector<std::wstring> cells = {pointLabel(point)};
-        for (int varga = 0; varga < core::kVargaCount; ++varga) {
-            const int sign = at(at(chart.vargas, varga), point).sign;
-            cells.push_back(std::wstring(core::SignName2(sign)) +
-                            (at(at(chart.nearBoundary, varga), point) ? L"*" : L""));
-        }
-        table.add(std::move(cells));
-    }
-    return table.text() + boundaryNote(computed.settings);
-}
-
-std::wstring vargaText(const ComputedChart& computed, int varga)
-{
-    const core::Chart& chart = computed.chart;
-    TextTable table({{L"Point"},
-                     {L"Sign"},
-                     {L"Position", Align::Right},
-                     {L"Step", Align::Right},
-                     {L"Dignity"}});
-    for (const int point : placedPoints(computed)) {
-        const core::VargaPlacement& placement = at(at(chart.vargas, varga), point);
-        const bool near = at(at(chart.nearBoundary, varga), point);
-        table.add({pointLabel(point) + (near ? L" *" : L""),
-                   std::wstring(core::signNameLong(placement.sign)),
-                   core::FormatDMS(placement.position, 1), std::to_wstring(placement.strengthStep),
-                   dignityCell(computed, varga, point)});
-    }
-    return vargaHeading(varga) + L"\n" + table.text() + boundaryNote(computed.settings);
-}
-
-std::wstring vimshopakaText(const ComputedChart& computed)
-{
-    std::vector<TextTable::Column> columns = {{L"Planet"}};
-    for (int set = 0; set < analysis::kVimshopakaSets; ++set) {
-        columns.push_back({std::wstring(analysis::vimshopakaSetName(set)), Align::Right});
-        columns.push_back({L""});
-    }
-    TextTable table(std::move(columns));
-    for (int planet = core::kSun; planet <= core::kSaturn; ++planet) {
-        std::vector<std::wstring> cells = {pointLabel(planet)};
-        for (const int total : at(computed.chart.vimshopaka, planet)) {
-            cells.push_back(fixedNumber(analysis::vimshopakaPoints(total), 2));
-            cells.emplace_back(analysis::vimshopakaWord(total));
-        }
-        table.add(std::move(cells));
-    }
-    return std::wstring(analysis::kVimshopakaHeading) + L"\n" + table.text();
 }
 
 } // namespace kestrav::cli

@@ -169,12 +169,13 @@ Table timeTable(const ComputedChart& computed)
     return table;
 }
 
-std::wstring notComputedNote(const ComputedChart& computed)
+void addNotComputedNote(Table& table, const ComputedChart& computed)
 {
     if (!computed.chart.hasMoment) {
-        return L"-- not computed: only positions are known";
+        table.notes.push_back(L"-- not computed: only positions are known");
+    } else if (!computed.day) {
+        table.notes.push_back(L"-- not computed: no day from sunrise to sunrise is running");
     }
-    return computed.day ? L"" : L"-- not computed: no day from sunrise to sunrise is running";
 }
 
 Table daylightTable(const ComputedChart& computed)

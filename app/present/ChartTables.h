@@ -33,7 +33,7 @@ namespace kestrav::present
 /// Cusps, and sandhis where the house system has them. Without rows when there are no cusps.
 [[nodiscard]] Table housesTable(const ComputedChart& computed);
 
-/// The sentence that says why values stand as "--"; empty when all are computed.
-[[nodiscard]] std::wstring notComputedNote(const ComputedChart& computed);
+/// Adds the sentence that says why values of the table stand as "--", if there is a reason.
+void addNotComputedNote(Table& table, const ComputedChart& computed);
 
 } // namespace kestrav::present

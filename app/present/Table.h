@@ -75,9 +75,9 @@ struct Table
     std::string id;     ///< its name for files and commands, lower case with hyphens
     std::wstring title; ///< may be empty
     std::vector<Column> columns;
-    std::vector<Row> rows;
-    std::vector<std::wstring> notes; ///< sentences that stand below the table
-    std::size_t gap = 2;             ///< blanks between two columns of plain text
+    std::vector<Row> rows{};
+    std::vector<std::wstring> notes{}; ///< sentences that stand below the table
+    std::size_t gap = 2;               ///< blanks between two columns of plain text
 
     /// Adds a row with one cell for each column.
     void add(Row row);

@@ -100,8 +100,12 @@ std::wstring geoText(double degrees, wchar_t positive, wchar_t negative)
 
 std::wstring pointLabel(int point)
 {
-    const std::wstring_view name = core::PointName(-1, point);
-    return std::wstring(name.substr(0, name.find_last_not_of(L' ') + 1));
+    return withoutEndBlanks(core::PointName(-1, point));
+}
+
+std::wstring withoutEndBlanks(std::wstring_view text)
+{
+    return std::wstring(text.substr(0, text.find_last_not_of(L' ') + 1));
 }
 
 int nakshatraOf(double position)

@@ -33,6 +33,9 @@ namespace kestrav::present
 /// The long name of a point without the blank in which some names end.
 [[nodiscard]] std::wstring pointLabel(int point);
 
+/// The text without the blanks at its end, which fill some fixed texts up to a width.
+[[nodiscard]] std::wstring withoutEndBlanks(std::wstring_view text);
+
 /// Nakshatra 0 to 26 of a nakshatra position.
 [[nodiscard]] int nakshatraOf(double position);
 

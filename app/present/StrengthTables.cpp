@@ -1,14 +1,13 @@
-#include "app/cli/StrengthText.h"
+#include "app/present/StrengthTables.h"
 
-#include "app/cli/TextTable.h"
-#include "app/cli/TextValues.h"
+#include "app/present/TextValues.h"
 #include "core/PointNames.h"
 
 #include <algorithm>
 #include <functional>
 #include <string_view>
 
-namespace kestrav::cli
+namespace kestrav::present
 {
 
 namespace
@@ -17,18 +16,17 @@ namespace
 using analysis::Shadbala;
 using analysis::Strength;
 using core::at;
-using Align = TextTable::Align;
 using Value = std::function<Strength(const Shadbala&)>;
 
-struct Row
+struct StrengthRow
 {
     std::wstring_view name;
     Value value;
 };
 
-const std::vector<Row>& shadbalaRows()
+const std::vector<StrengthRow>& shadbalaRows()
 {
-    static const std::vector<Row> kRows = {
+    static const std::vector<StrengthRow> kRows = {
         {L"  Uccha",
          [](const Shadbala& bala) {
              return bala.sthana.uccha;
@@ -113,9 +111,9 @@ const std::vector<Row>& shadbalaRows()
     return kRows;
 }
 
-const std::vector<Row>& totalRows()
+const std::vector<StrengthRow>& totalRows()
 {
-    static const std::vector<Row> kRows = {
+    static const std::vector<StrengthRow> kRows = {
         {L"Total",
          [](const Shadbala& bala) {
              return bala.total;
@@ -140,21 +138,22 @@ const std::vector<Row>& totalRows()
     return kRows;
 }
 
-TextTable planetTable(const std::wstring& heading)
+Table planetTable(std::string id, const std::wstring& title)
 {
-    std::vector<TextTable::Column> columns = {{heading}};
+    Table table = {std::move(id), title, {{L"Part"}}};
     for (int planet = core::kSun; planet <= core::kSaturn; ++planet) {
-        columns.push_back({pointLabel(planet), Align::Right});
+        table.columns.push_back({pointLabel(planet), Align::Right});
     }
-    return TextTable(std::move(columns));
+    return table;
 }
 
-void addRows(TextTable& table, const std::vector<Row>& rows, const analysis::ShadbalaTable& balas)
+void addRows(Table& table, const std::vector<StrengthRow>& rows,
+             const analysis::ShadbalaTable& balas)
 {
-    for (const Row& row : rows) {
-        std::vector<std::wstring> cells = {std::wstring(row.name)};
+    for (const StrengthRow& row : rows) {
+        Row cells = {row.name};
         for (int planet = core::kSun; planet <= core::kSaturn; ++planet) {
-            cells.push_back(numberOrNone(row.value(at(balas.planets, planet)), 2));
+            cells.push_back(numberCell(row.value(at(balas.planets, planet)), 2));
         }
         table.add(std::move(cells));
     }
@@ -208,107 +207,137 @@ std::wstring aspectCell(const analysis::Aspect& aspect)
 }
 
 // One row for each aspecting body, one column for each point from `first` to `last`.
-std::wstring aspectTable(const std::vector<analysis::Aspect>& aspects, int first, int last)
+Table aspectTable(std::string id, const std::vector<analysis::Aspect>& aspects, int first, int last)
 {
-    std::vector<TextTable::Column> columns = {{L"From"}};
+    Table table = {std::move(id), L"", {{L"From"}}};
+    table.gap = 1;
     for (int to = first; to <= last; ++to) {
-        columns.push_back({std::wstring(core::PointName(3, to)), Align::Left});
+        table.columns.push_back({std::wstring(core::PointName(3, to))});
     }
-    TextTable table(std::move(columns), 1);
     for (int from = core::kSun; from <= core::kKetu; ++from) {
-        std::vector<std::wstring> cells = {pointLabel(from)};
+        Row cells = {pointCell(from)};
         for (int to = first; to <= last; ++to) {
             const auto found =
                 std::find_if(aspects.begin(), aspects.end(), [&](const analysis::Aspect& aspect) {
                     return aspect.from == from && aspect.to == to;
                 });
-            cells.push_back(found == aspects.end() ? L"" : aspectCell(*found));
+            Cell cell = found == aspects.end() ? Cell() : Cell(aspectCell(*found));
+            if (found != aspects.end()) {
+                cell.sortKey = found->value;
+            }
+            cells.push_back(std::move(cell));
         }
         table.add(std::move(cells));
     }
-    return table.text();
+    return table;
 }
 
 } // namespace
 
-std::wstring shadbalaText(const analysis::ShadbalaTable& table, const analysis::Rashmis& rashmis)
+Strengths::Strengths(const ComputedChart& computed, int nameLetter)
+    : inputs(analysis::strengthInputs(computed.chart)),
+      shadbala(analysis::computeShadbala(computed.chart, inputs)),
+      houses(analysis::computeBhavaBala(computed.chart, shadbala)),
+      rashmis(analysis::computeRashmis(computed.chart, computed.settings)),
+      avasthas(analysis::computeAvasthas(computed.chart, inputs, nameLetter, computed.settings)),
+      aspects(analysis::bodyAspects(computed.chart, computed.settings))
 {
-    TextTable text = planetTable(L"Shadbala");
-    addRows(text, shadbalaRows(), table);
-    addRows(text, totalRows(), table);
-    std::vector<std::wstring> cells = {L"Rashmis"};
+    const auto onHouses = analysis::houseAspects(computed.chart, computed.settings);
+    aspects.insert(aspects.end(), onHouses.begin(), onHouses.end());
+}
+
+Table shadbalaTable(const Strengths& strengths)
+{
+    Table table = planetTable("shadbala", L"Shadbala");
+    addRows(table, shadbalaRows(), strengths.shadbala);
+    addRows(table, totalRows(), strengths.shadbala);
+    Row cells = {L"Rashmis"};
     for (int planet = core::kSun; planet <= core::kSaturn; ++planet) {
-        cells.push_back(numberOrNone(at(rashmis.planets, planet), 2));
+        cells.push_back(numberCell(at(strengths.rashmis.planets, planet), 2));
     }
-    text.add(std::move(cells));
-    return text.text() + L"All rashmis " + numberOrNone(rashmis.total, 2) + L"\n";
+    table.add(std::move(cells));
+    table.notes.push_back(L"All rashmis " + numberOrNone(strengths.rashmis.total, 2));
+    return table;
 }
 
-std::wstring shadbalaTotalsText(const analysis::ShadbalaTable& table)
+Table shadbalaTotalsTable(const Strengths& strengths)
 {
-    TextTable text = planetTable(L"Shadbala");
-    addRows(text, totalRows(), table);
-    return text.text();
+    Table table = planetTable("shadbala-totals", L"Shadbala");
+    addRows(table, totalRows(), strengths.shadbala);
+    return table;
 }
 
-std::wstring bhavaBalaText(const std::array<analysis::BhavaBala, 12>& houses)
+Table bhavaBalaTable(const Strengths& strengths)
 {
-    TextTable table({{L"House", Align::Right},
-                     {L"Lord"},
-                     {L"Of the lord", Align::Right},
-                     {L"Dig", Align::Right},
-                     {L"Drishti", Align::Right},
-                     {L"Total", Align::Right}});
-    for (const analysis::BhavaBala& bala : houses) {
-        table.add({std::to_wstring(bala.house),
-                   bala.lordPoint == 0 ? std::wstring(core::kNoName) : pointLabel(bala.lordPoint),
-                   numberOrNone(bala.lord, 2), numberOrNone(bala.dig, 2),
-                   numberOrNone(bala.drishti, 2), numberOrNone(bala.total, 2)});
+    Table table = {"bhava-bala",
+                   L"Bhava bala",
+                   {{L"House", Align::Right},
+                    {L"Lord"},
+                    {L"Of the lord", Align::Right},
+                    {L"Dig", Align::Right},
+                    {L"Drishti", Align::Right},
+                    {L"Total", Align::Right}}};
+    for (const analysis::BhavaBala& bala : strengths.houses) {
+        table.add({{std::to_wstring(bala.house), double(bala.house), {Subject::House, bala.house}},
+                   bala.lordPoint == 0 ? Cell(core::kNoName) : pointCell(bala.lordPoint),
+                   numberCell(bala.lord, 2),
+                   numberCell(bala.dig, 2),
+                   numberCell(bala.drishti, 2),
+                   numberCell(bala.total, 2)});
     }
-    return L"Bhava bala\n" + table.text();
+    return table;
 }
 
-std::wstring avasthasText(const std::array<analysis::Avasthas, 10>& avasthas)
+Table avasthasTable(const Strengths& strengths)
 {
-    TextTable table({{L"Body"},
-                     {L"Baladi"},
-                     {L"Jagradadi"},
-                     {L"Deeptadi"},
-                     {L"Shayanadi"},
-                     {L"Lajjitadi", Align::Wrapped}});
+    Table table = {"avasthas",
+                   L"Avasthas",
+                   {{L"Body"},
+                    {L"Baladi"},
+                    {L"Jagradadi"},
+                    {L"Deeptadi"},
+                    {L"Shayanadi"},
+                    {L"Lajjitadi", Align::Wrapped}}};
     for (int body = core::kSun; body <= core::kKetu; ++body) {
-        const analysis::Avasthas& states = at(avasthas, body);
+        const analysis::Avasthas& states = at(strengths.avasthas, body);
         std::wstring company;
         for (const analysis::Lajjitadi state : states.lajjitadi) {
             append(company, analysis::avasthaName(state));
         }
-        table.add({pointLabel(body), stateCell(states.baladi), stateCell(states.jagradadi),
+        table.add({pointCell(body), stateCell(states.baladi), stateCell(states.jagradadi),
                    deeptadiCell(states.deeptadi), shayanadiCell(states.shayanadi), company});
     }
-    return L"Avasthas\n" + table.text();
+    return table;
 }
 
-std::wstring warsText(const std::vector<analysis::War>& wars)
+Table warsTable(const Strengths& strengths)
 {
-    if (wars.empty()) {
-        return L"No planetary war.\n";
+    Table table = {"planetary-war",
+                   L"Planetary war",
+                   {{L"First"}, {L"Second"}, {L"Winner"}, {L"Virupas", Align::Right}}};
+    for (const analysis::War& war : strengths.shadbala.wars) {
+        table.add({pointCell(war.first), pointCell(war.second),
+                   war.winner ? pointCell(*war.winner) : Cell(L"not computed"),
+                   numberCell(war.bala, 2)});
     }
-    std::wstring text;
-    for (const analysis::War& war : wars) {
-        text += L"Planetary war of " + pointLabel(war.first) + L" and " + pointLabel(war.second);
-        text += war.winner ? L": " + pointLabel(*war.winner) + L" wins" +
-                                 (war.bala ? L" " + fixedNumber(*war.bala, 2) + L" virupas" : L"")
-                           : L": the winner is not computed";
-        text += L".\n";
+    if (table.rows.empty()) {
+        table.notes.push_back(L"No planetary war.");
     }
-    return text;
+    return table;
 }
 
-std::wstring aspectsText(const std::vector<analysis::Aspect>& aspects)
+Table bodyAspectsTable(const Strengths& strengths)
 {
-    return L"Aspects (virupas; f full aspect, s sign aspect)\n" +
-           aspectTable(aspects, core::kSun, core::kKetu) + L"\n" +
-           aspectTable(aspects, core::kCusp1, core::kCusp12);
+    Table table = aspectTable("aspects", strengths.aspects, core::kSun, core::kKetu);
+    table.title = L"Aspects (virupas; f full aspect, s sign aspect)";
+    return table;
 }
 
-} // namespace kestrav::cli
+Table houseAspectsTable(const Strengths& strengths)
+{
+    Table table = aspectTable("house-aspects", strengths.aspects, core::kCusp1, core::kCusp12);
+    table.title = L"Aspects on the houses";
+    return table;
+}
+
+} // namespace kestrav::present

@@ -1,0 +1,40 @@
+// Tables of the divisional charts and the vimshopaka.
+#pragma once
+
+#include "app/present/ComputedChart.h"
+#include "app/present/Table.h"
+
+#include <string>
+#include <vector>
+
+namespace kestrav::present
+{
+
+/// Points from here on have no placements in the divisional charts.
+inline constexpr int kPlacedPoints = core::kPartOfFortune;
+
+/// "Navamsha (D-9), spouse": name, division and meaning.
+[[nodiscard]] std::wstring vargaHeading(int varga);
+
+/// "D9", which leads to the divisional chart.
+[[nodiscard]] Cell vargaCell(int varga);
+
+/// The points that are computed and have placements, in their order.
+[[nodiscard]] std::vector<int> placedPoints(const ComputedChart& computed);
+
+/// Of these the ascendant, the nine planets and the outer three.
+[[nodiscard]] std::vector<int> mainPoints(const ComputedChart& computed);
+
+/// Index, division, name and meaning of all divisional charts.
+[[nodiscard]] Table vargaListTable();
+
+/// The signs of the points in all divisional charts.
+[[nodiscard]] Table vargaSignsTable(const ComputedChart& computed, const std::vector<int>& points);
+
+/// One divisional chart: sign, position, step and dignity of each point.
+[[nodiscard]] Table vargaTable(const ComputedChart& computed, int varga);
+
+/// The four sets of vimshopaka with points out of 20 and words.
+[[nodiscard]] Table vimshopakaTable(const ComputedChart& computed);
+
+} // namespace kestrav::present
