@@ -156,6 +156,15 @@ Span spanOf(const EphemerisPlan& plan)
     return {firstMoment(plan) - offset, endOf(plan) - offset};
 }
 
+core::DateTimeRecord clockRecord(double julianDay, double clockOffset)
+{
+    const double day = julianDay + clockOffset / 24.0;
+    const double day0h = std::floor(day - 0.5) + 0.5;
+    core::DateTimeRecord record = recordOfDay(day0h);
+    record.localTime = (day - day0h) * 24.0;
+    return record;
+}
+
 EphemerisRows::EphemerisRows(SiderealSky& sky, EphemerisPlan plan)
     : sky_(sky), plan_(std::move(plan))
 {

@@ -72,6 +72,10 @@ enum class PlanProblem
 /// From the first row to the end of the last date, in Julian days of Universal Time.
 [[nodiscard]] Span spanOf(const EphemerisPlan& plan);
 
+/// The civil date and clock time of a Julian day (Universal Time) on a clock that is `clockOffset`
+/// hours before Universal Time. Within three million years of 2000.
+[[nodiscard]] core::DateTimeRecord clockRecord(double julianDay, double clockOffset);
+
 struct EphemerisPosition
 {
     int point = 0;
