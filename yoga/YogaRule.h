@@ -3,6 +3,7 @@
 
 #include "core/Result.h"
 #include "yoga/Condition.h"
+#include "yoga/Keywords.h"
 #include "yoga/ParseCondition.h"
 #include "yoga/RuleText.h"
 
@@ -19,6 +20,9 @@ namespace kestrav::yoga
 inline constexpr wchar_t kUnequalBrackets[] =
     L"The number of opening and closing brakets are not equal, please correct and try again";
 
+/// The words of the catalogue of conditions.
+inline constexpr ConditionNames kCatalogueNames{keywordCode, kindOfKeyword};
+
 struct RuleToken
 {
     TokenKind kind = TokenKind::Condition;
@@ -32,7 +36,7 @@ public:
 
     /// Reads a rule; one of more than kLongestRule bytes is refused. Brackets are not checked.
     [[nodiscard]] static core::Result<YogaRule> read(std::string_view text,
-                                                     const ConditionNames& names);
+                                                     const ConditionNames& names = kCatalogueNames);
 
     [[nodiscard]] std::span<const RuleToken> tokens() const
     {
