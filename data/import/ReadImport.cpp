@@ -289,8 +289,12 @@ std::wstring reportText(const ImportReport& report)
             ", refused: " + std::to_string(report.refused.size()) + "\n";
     text += notesText(report.refused, "refused") + notesText(report.remarks, "remark on");
     std::wstring wide = core::fromFileBytes(text);
-    std::replace_if(
-        wide.begin(), wide.end(), [](wchar_t c) { return c < 0x20 && c != L'\n'; }, L' ');
+    // Texts of foreign files may hold anything, also the second set of control characters, which
+    // terminals obey.
+    const auto control = [](wchar_t c) {
+        return (c < 0x20 && c != L'\n') || (c >= 0x7F && c < 0xA0);
+    };
+    std::replace_if(wide.begin(), wide.end(), control, L' ');
     return wide;
 }
 

@@ -350,6 +350,37 @@ TEST_F(DatabaseTest, BackupAndRestore)
     EXPECT_EQ(database.size(), 2U);
 }
 
+TEST_F(DatabaseTest, AFailedBackupOrRestoreLeavesEverything)
+{
+    const std::string text = lineOf("Mira") + "\n";
+    const fs::path path = put("charts.ksc", text);
+    put("copy.ksc", lineOf("Sam") + "\n");
+    const auto fails = [&](bool restore) {
+        ChartDatabase database;
+        PreparedMessages messages({Answer::Yes});
+        if (!database.load(path)) {
+            return 2;
+        }
+        const Outcome outcome = restore
+                                    ? restoreDatabase(database, folder / "copy.ksc", path, messages)
+                                    : backUpDatabase(database, folder / "copy.ksc", messages);
+        return outcome == Outcome::Failed && textOf(database) == text && database.path() == path &&
+                       messages.shown.size() == 2 &&
+                       messages.shown[1].text.starts_with(L"Saving File Error : ")
+                   ? 0
+                   : 1;
+    };
+    for (const bool restore : {false, true}) {
+        EXPECT_EQ(onFullDisk(16, [&] { return fails(restore); }), 0) << restore;
+        fs::permissions(folder, fs::perms(0555));
+        EXPECT_EQ(withoutPrivileges([&] { return fails(restore); }), 0) << restore;
+        fs::permissions(folder, fs::perms(0777));
+    }
+    EXPECT_EQ(get("charts.ksc"), text);
+    EXPECT_EQ(get("copy.ksc"), lineOf("Sam") + "\n");
+    EXPECT_EQ(names(), (std::set<std::string>{"charts.ksc", "copy.ksc"}));
+}
+
 TEST_F(DatabaseTest, MergingShowsWhatIsNewChangedAndEqual)
 {
     ChartDatabase ours;

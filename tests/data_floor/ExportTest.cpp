@@ -166,5 +166,42 @@ TEST_F(ExportFileTest, AsksAndKeepsTheBackupOfTheDatabase)
     EXPECT_EQ(exportText(database, ExportFormat::Qck, qck).size(), 2U * 102U);
 }
 
+TEST_F(ExportFileTest, AFailedExportSaysWhyAndKeepsTheOldFile)
+{
+    ChartDatabase database;
+    ASSERT_TRUE(database.load(put("charts.ksc", lineOf("Mira") + "\n")));
+    put("elsewhere.csv", "elsewhere");
+    fs::create_symlink(folder / "elsewhere.csv", folder / "link.csv");
+    const fs::path path = put("charts.csv", "old");
+    const auto exportFails = [&] {
+        PreparedMessages messages({Answer::Yes});
+        ExportReport report;
+        const bool failed =
+            exportCharts(database, ExportFormat::Csv, path, messages, report) == Outcome::Failed;
+        return failed && messages.shown.size() == 2 && messages.shown[1].caption == L"Error" &&
+                       messages.shown[1].text.starts_with(L"Saving File Error : " + path.wstring() +
+                                                          L": ")
+                   ? 0
+                   : 1;
+    };
+    EXPECT_EQ(onFullDisk(16, exportFails), 0);
+    fs::permissions(path, fs::perms(0444));
+    EXPECT_EQ(withoutPrivileges(exportFails), 0) << "a file that must not be written";
+    fs::permissions(path, fs::perms(0666));
+    fs::permissions(folder, fs::perms(0555));
+    EXPECT_EQ(withoutPrivileges(exportFails), 0) << "a folder that cannot be written";
+    fs::permissions(folder, fs::perms(0777));
+    EXPECT_EQ(get("charts.csv"), "old");
+    EXPECT_EQ(names(),
+              (std::set<std::string>{"charts.csv", "charts.ksc", "elsewhere.csv", "link.csv"}));
+
+    PreparedMessages messages({Answer::Yes});
+    ExportReport report;
+    EXPECT_EQ(exportCharts(database, ExportFormat::Csv, folder / "link.csv", messages, report),
+              Outcome::Done);
+    EXPECT_TRUE(fs::is_symlink(folder / "link.csv"));
+    EXPECT_TRUE(get("elsewhere.csv").starts_with("tag,label,name"));
+}
+
 } // namespace
 } // namespace kestrav::data

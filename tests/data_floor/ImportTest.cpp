@@ -482,6 +482,22 @@ TEST_F(ImportFileTest, AddsToTheDatabaseOnce)
     EXPECT_TRUE(shouldImport(put("mira.dat", kMiraPacked)));
     EXPECT_FALSE(shouldImport(put("ours.dat", lineOf("Mira") + "\n")));
     EXPECT_FALSE(shouldImport(put("empty.dat", "")));
+
+    fs::permissions(list, fs::perms(0));
+    EXPECT_EQ(withoutPrivileges([&] {
+                  messages.shown.clear();
+                  importFile(database, list, {}, messages, report);
+                  return messages.shown.size() == 1 &&
+                                 messages.shown[0].text == L"Can't find the file"
+                             ? 0
+                             : 1;
+              }),
+              0);
+    report = {};
+    report.file = "a\x1B[2J.qck";
+    report.refuse(1, "\xC2\x9B"
+                     "31m");
+    EXPECT_EQ(reportText(report), L"a [2J.qck\n  taken: 0, refused: 1\n  refused 1:  31m\n");
 }
 
 } // namespace
