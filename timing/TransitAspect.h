@@ -21,7 +21,7 @@ using HouseMask = int;
 
 [[nodiscard]] constexpr bool containsHouse(HouseMask mask, int house)
 {
-    return ((mask >> house) & 1) != 0;
+    return house >= 1 && house <= 12 && ((mask >> house) & 1) != 0;
 }
 
 /// The house-distances, counted from the target, from which a body 1 to 9 aspects it; 0 for every

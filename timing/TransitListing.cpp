@@ -123,7 +123,7 @@ public:
             });
             return;
         }
-        for (double day = 0.0; day < count; day += 1.0) {
+        for (int day = 0; day < int(count); ++day) {
             addTestedDay(begin + day);
         }
     }
