@@ -1,11 +1,14 @@
-// How long a month of panchanga, positions from the interpolants and long searches take, beside the
-// plain loop over the cosines of one chart.
+// How long a month of panchanga, positions from the interpolants, long searches and transits take,
+// beside the plain loop over the cosines of one chart.
+#include "analysis/StorePoint.h"
 #include "astro/Bodies.h"
 #include "astro/DataFile.h"
 #include "astro/PreciseMoon.h"
 #include "timing/EventSearch.h"
 #include "timing/Panchanga.h"
 #include "timing/PanchangaReport.h"
+#include "timing/SadeSati.h"
+#include "timing/TransitListing.h"
 
 #include <benchmark/benchmark.h>
 
@@ -129,11 +132,43 @@ void ingressesAndStationsOfACentury(benchmark::State& state)
     state.counters["events"] = double(events);
 }
 
+// Every body to a native's points over ten years with orbs, ingresses, stations and combustion; the
+// parameters are the count of points and the aspect choice.
+void tenYearsOfTransits(benchmark::State& state)
+{
+    core::Chart native;
+    timing::TransitOptions options;
+    options.bodies.assign(core::kBodies.begin(), core::kBodies.end());
+    options.aspectChoice = int(state.range(1));
+    for (int point = 0; point < int(state.range(0)); ++point) {
+        analysis::storePoint(native, point, 17.3 + 5.7 * point);
+        options.targets.push_back(point);
+    }
+    std::size_t events = 0;
+    for (auto _ : state) {
+        timing::SiderealSky sky(series(), core::Settings{}, 5.5);
+        events = timing::listTransits(sky, &native, options, {kFirstDay, kFirstDay + 3652.0}, 5.5)
+                     .size();
+    }
+    state.counters["events"] = double(events);
+}
+
+void sadeSatiOfALife(benchmark::State& state)
+{
+    for (auto _ : state) {
+        timing::SiderealSky sky(series(), core::Settings{}, 5.5);
+        std::size_t phases = timing::sadeSati(sky, 7, {kFirstDay, kFirstDay + kCentury}).size();
+        benchmark::DoNotOptimize(phases);
+    }
+}
+
 BENCHMARK(plainCosineLoop);
 BENCHMARK(monthOfPanchanga);
 BENCHMARK(sunAndMoonFromSeries);
 BENCHMARK(sunAndMoonInterpolated);
 BENCHMARK(ingressesAndStationsOfACentury);
+BENCHMARK(tenYearsOfTransits)->Args({10, 1})->Args({63, 1})->Args({63, 0});
+BENCHMARK(sadeSatiOfALife);
 
 } // namespace
 
