@@ -4,7 +4,10 @@
 
 #include <nlohmann/json.hpp>
 
+#include <array>
 #include <cmath>
+#include <cstdio>
+#include <cstdlib>
 
 namespace kestrav::cli
 {
@@ -41,6 +44,14 @@ Json textJson(std::wstring_view text)
 Json textOrNull(std::wstring_view text)
 {
     return text.empty() ? Json() : textJson(text);
+}
+
+Json dateJson(const core::DateTimeRecord& record)
+{
+    std::array<char, 48> text{};
+    std::snprintf(text.data(), text.size(), "%s%04d-%02d-%02d", record.year < 0 ? "-" : "",
+                  std::abs(record.year), record.month, record.day);
+    return text.data();
 }
 
 } // namespace kestrav::cli

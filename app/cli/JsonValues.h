@@ -2,6 +2,8 @@
 // key is ever left out.
 #pragma once
 
+#include "core/DateTime.h"
+
 #include <nlohmann/json_fwd.hpp>
 
 #include <optional>
@@ -26,5 +28,8 @@ using Json = nlohmann::ordered_json;
 /// A text; the second form is null for an empty one.
 [[nodiscard]] Json textJson(std::wstring_view text);
 [[nodiscard]] Json textOrNull(std::wstring_view text);
+
+/// A date "YYYY-MM-DD" in historical years; -0044-03-15 is in 44 BC.
+[[nodiscard]] Json dateJson(const core::DateTimeRecord& record);
 
 } // namespace kestrav::cli
