@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
@@ -33,8 +34,8 @@ struct Parameter
     bool repeated = false; ///< takes every word that follows; only the last one does
     int lowest = 0;        ///< of a number
     int highest = 0;
-    int fallback = 0;            ///< value of an absent number
-    std::string_view words = {}; ///< the plain words that it takes, separated by blanks
+    int fallback = 0;        ///< value of an absent number
+    std::uint64_t words = 0; ///< the plain words that it takes, bit n for PlainWord n
 };
 
 inline constexpr std::size_t kMaxParameters = 6;
@@ -52,14 +53,18 @@ enum class Needs : int
     Strengths, ///< an analysed chart and its shadbala
 };
 
+/// The kind that compares two divisional charts whatever its words say.
+inline constexpr int kVargottamaKind = 15;
+
 struct Kind
 {
     int number = 0;
     std::string_view keyword;
     std::string_view group; ///< heading under which lists show it
     std::array<Parameter, kMaxParameters> parameters = {};
-    std::string_view meaning; ///< one or two sentences
-    std::string_view example; ///< a whole condition
+    std::string_view sentence; ///< the condition in words, with its parameters in braces
+    std::string_view meaning;  ///< one or two sentences
+    std::string_view example;  ///< a whole condition
     std::string_view exampleMeaning;
     Needs needs = Needs::Signs; ///< at least; points and sets in the words can need more
     bool rashiOnly = false;     ///< what it tests is the same in every divisional chart

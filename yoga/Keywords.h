@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace kestrav::yoga
 {
@@ -235,6 +236,16 @@ enum PlainWord : int
 
 /// A set in words, without its quantifier: "the natural benefics besides the Moon".
 [[nodiscard]] std::wstring setWords(const SetWord& word);
+
+/// "one of ", "none of ", "at least 2 of " ...
+[[nodiscard]] std::wstring quantifierWords(const SetWord& word);
+
+/// Houses and signs of a mask: "1, 4, 7 or 10".
+[[nodiscard]] std::wstring houseWords(std::uint32_t mask);
+[[nodiscard]] std::wstring signWords(std::uint32_t mask);
+
+/// "a, b or c".
+[[nodiscard]] std::wstring orList(const std::vector<std::wstring>& items);
 
 /// Any other code in words, as "1st, 4th, 7th or 10th" or "exalted".
 [[nodiscard]] std::wstring codeWords(int code);

@@ -44,8 +44,10 @@ public:
     /// begins.
     void resetOption();
 
-    /// Prepares the divisional charts for an option of a condition's prefix. Nothing is done when
-    /// it is the one last used.
+    /// Prepares the divisional charts for the option of a condition, 1 without a prefix, so that
+    /// its truth never depends on the conditions before it. Nothing is done when it is the one last
+    /// used. Of a chart the divisions under another option are kept until the next one asks for a
+    /// third.
     void prepareOption(int option);
 
     /// How often an option was prepared, for tests.
@@ -80,7 +82,7 @@ private:
     Frame native_;
     Frame second_;
     std::optional<double> moment_;
-    int option_ = 1;
+    int option_ = kPlainOption;
     int optionsPrepared_ = 0;
 };
 

@@ -8,6 +8,7 @@
 #include "analysis/Shadbala.h"
 #include "core/Chart.h"
 #include "core/Settings.h"
+#include "timing/Dasha.h"
 #include "yoga/Keywords.h"
 
 #include <array>
@@ -19,17 +20,27 @@
 namespace kestrav::yoga
 {
 
+/// The divisional-chart option under which charts are as the settings have them.
+inline constexpr int kPlainOption = 1;
+
 class Frame
 {
 public:
-    /// The settings must outlive the object; settingsChanged tells of a change.
+    /// The settings must outlive the object; setOption tells of a change.
     explicit Frame(const core::Settings& settings);
 
     void clear();
     void setChart(const core::Chart& chart);
     bool setLine(std::string_view line);
-    void settingsChanged(bool asComputed);
 
+    /// Tells that the settings are now those of a divisional-chart option. Under option 1 a chart
+    /// is as it was computed; for another one it is copied and its divisions are made again.
+    void setOption(int option);
+
+    [[nodiscard]] const core::Settings& settings() const
+    {
+        return settings_;
+    }
     [[nodiscard]] bool exists() const
     {
         return source_ != Source::None;
@@ -51,7 +62,6 @@ public:
     [[nodiscard]] bool retrograde(int point);
     [[nodiscard]] bool combust(int planet);
 
-
     [[nodiscard]] const analysis::NaturalBenefics& benefics();
     [[nodiscard]] const analysis::NatureTable& natures();
     /// The planet that has a chara karaka's place in the list of eight, 0 (Atma) to 7 (Dara); 0
@@ -59,6 +69,9 @@ public:
     [[nodiscard]] int karaka(int place);
     [[nodiscard]] const analysis::ShadbalaTable& shadbala();
     [[nodiscard]] const analysis::Ashtakavarga& ashtakavarga(int varga);
+
+    /// A dasha of the chart, or null when it has none.
+    [[nodiscard]] const timing::Dasha* dasha(int system, const astro::Series& series);
 
     /// The planets 1 to 9 of a set, bit n for planet n.
     [[nodiscard]] std::uint32_t members(const SetWord& word, int varga);
@@ -72,6 +85,8 @@ public:
     {
         return source_ == Source::Chart;
     }
+    /// The Julian day of the moment of a whole chart, in Universal Time.
+    [[nodiscard]] std::optional<double> momentOfChart() const;
     /// The sex of the native: "M", "F" or empty.
     [[nodiscard]] char sex() const;
 
@@ -97,6 +112,8 @@ private:
     const core::Chart* given_ = nullptr;   ///< the chart that was set
     const core::Chart* current_ = nullptr; ///< it, or its copy under another option
     std::unique_ptr<core::Chart> own_;     ///< that copy, or the positions of a research line
+    bool ownIsLine_ = false;
+    int ownOption_ = 0; ///< option of that copy; 0 when there is none of the chart
     std::string_view line_;
     core::PointArray<int> rashi_ = {};
     bool positionsRead_ = false;
@@ -108,6 +125,8 @@ private:
     std::optional<std::array<int, 8>> karakas_;
     std::optional<analysis::ShadbalaTable> shadbala_;
     std::optional<analysis::Ashtakavarga> ashtakavarga_;
+    std::optional<timing::Dasha> dasha_;
+    int dashaSystem_ = -1; ///< of dasha_, also when it could not be made
 };
 
 } // namespace kestrav::yoga
