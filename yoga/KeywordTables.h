@@ -38,7 +38,8 @@ struct StepWord
 {
     std::string_view word;
     int step;
-    std::wstring_view meaning; ///< what stands before the point in a sentence
+    std::wstring_view before; ///< what stands before the point in a sentence
+    std::wstring_view after;  ///< and what behind it
 };
 
 // clang-format off
@@ -58,14 +59,14 @@ inline constexpr std::array<BaseWord, 10> kBaseWords = {{
 
 /// Steps that are one letter.
 inline constexpr std::array<StepWord, 8> kStepWords = {{
-    {"D", kDispositor,     L"the dispositor of "},
-    {"N", kNakshatraStep,  L"the nakshatra lord of "},
-    {"V", kNavamshaLord,   L"the navamsha lord of "},
-    {"X", kExaltationLord, L"the lord of the exaltation sign of "},
-    {"E", kExaltedHere,    L"the planet exalted in the sign of "},
-    {"T", kSecondChart,    L"in the second chart "},
-    {"R", kInRashi,        L"by the rashi "},
-    {"A", kArudhaStep,     L"the arudha of "},
+    {"D", kDispositor,     L"the dispositor of ", L""},
+    {"N", kNakshatraStep,  L"the nakshatra lord of ", L""},
+    {"V", kNavamshaLord,   L"the navamsha lord of ", L""},
+    {"X", kExaltationLord, L"the lord of the exaltation sign of ", L""},
+    {"E", kExaltedHere,    L"the planet exalted in the sign of ", L""},
+    {"T", kSecondChart,    L"", L" in the second chart"},
+    {"R", kInRashi,        L"", L" as found in the rashi"},
+    {"A", kArudhaStep,     L"the arudha of ", L""},
 }};
 
 /// Planets of a name or a fixed group.
@@ -85,8 +86,8 @@ inline constexpr std::array<std::string_view, kPlanetSets - 1> kSetWords = {
 inline constexpr std::array<std::wstring_view, kPlanetSets - 1> kSetMeanings = {
     L"natural benefics",
     L"natural malefics",
-    L"functional benefics",
-    L"functional malefics",
+    L"functional benefics (benefic or yogakaraka and not malefic for the ascendant)",
+    L"functional malefics (malefic and neither benefic nor yogakaraka)",
     L"yogakarakas",
     L"functional marakas",
     L"lords of kendras",
@@ -96,12 +97,12 @@ inline constexpr std::array<std::wstring_view, kPlanetSets - 1> kSetMeanings = {
     L"lords of panapharas",
     L"lords of apoklimas",
     L"lords of the 2nd and 7th",
-    L"retrograde planets",
+    L"retrograde planets, of Mars to Saturn",
     L"combust planets",
     L"exalted planets",
-    L"planets in own signs",
+    L"planets in own signs or moolatrikona",
     L"debilitated planets",
-    L"planets of the largest group of four and more",
+    L"planets Sun to Saturn that stand four or more in one sign",
 };
 
 /// Groups of houses.

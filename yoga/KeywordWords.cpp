@@ -33,7 +33,7 @@ std::wstring stepWords(int step, const std::wstring& point)
     }
     for (const StepWord& word : kStepWords) {
         if (word.step == step) {
-            return std::wstring(word.meaning) + point;
+            return std::wstring(word.before) + point + std::wstring(word.after);
         }
     }
     return point;
