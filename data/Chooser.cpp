@@ -22,8 +22,8 @@ namespace kestrav::data
 namespace
 {
 
-// The fields between the birth time and the notes.
-constexpr int kFieldsBeforeNotes = 11;
+// The fields between the birth time and the second date.
+constexpr int kFieldsBeforeSecondDate = 10;
 
 bool plainName(std::string_view name)
 {
@@ -119,10 +119,10 @@ ChooserRow chooserRow(std::string_view line, DateOrder& order, bool namesOnly)
     row.code = fields.text(kCodeLength);
     const WrittenDate date = readDate(fields);
     row.time = fields.text(kTimeLength);
-    fields.skipText(kFieldsBeforeNotes);
-    fields.part(0);
-    fields.lastPart(0);
-    fields.skipText(1);
+    fields.skipText(kFieldsBeforeSecondDate);
+    fields.skipCompound(3);
+    fields.skipCompound(2);
+    fields.skipCompound(2);
     row.date = date.in(orderOfLine(fields.part(kOrderCodeLength), date, order));
     return row;
 }

@@ -110,6 +110,14 @@ void FieldReader::skipText(int count)
     }
 }
 
+void FieldReader::skipCompound(int parts)
+{
+    for (int i = 1; i < parts; ++i) {
+        part(0);
+    }
+    lastPart(0);
+}
+
 std::wstring FieldReader::wideText(std::size_t most)
 {
     return wideField(text(most));

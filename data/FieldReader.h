@@ -48,6 +48,8 @@ public:
     /// A text field in which a quote is a character like any other.
     std::string_view unquoted(std::size_t most);
     void skipText(int count);
+    /// Goes past a compound of so many parts, the last of which is a text field.
+    void skipCompound(int parts);
 
     /// The characters of a field, control characters as blanks.
     std::wstring wideText(std::size_t most);

@@ -55,13 +55,16 @@ private:
 // The order code of a line, which decides whether the order in force matters for it.
 bool hasOwnOrder(std::string_view line)
 {
-    constexpr int kFieldsBeforeNotes = 17;
+    constexpr int kFieldsBeforeDate = 4;
+    constexpr int kFieldsBeforeSecondDate = 11;
     FieldReader fields(line);
     fields.unquoted(1);
-    fields.skipText(kFieldsBeforeNotes);
-    fields.part(0);
-    fields.lastPart(0);
-    fields.skipText(1);
+    fields.skipText(kFieldsBeforeDate);
+    fields.skipCompound(3);
+    fields.skipText(kFieldsBeforeSecondDate);
+    fields.skipCompound(3);
+    fields.skipCompound(2);
+    fields.skipCompound(2);
     const std::string_view code = fields.part(1);
     return code == "E" || code == "U";
 }

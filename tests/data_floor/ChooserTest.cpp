@@ -33,6 +33,11 @@ TEST(Chooser, ListsWhatTheParserReads)
     database.addLine(bare.line());
     bare.name = "\" .. \"";
     database.addLine(bare.line());
+    LineParts quoted;
+    quoted.second = "\"1\"/2/1990";
+    quoted.numbers = "\"1\"/2";
+    quoted.order = "\"UN\"/0/0/0";
+    database.addLine(quoted.line());
     database.addLine(bare.line().substr(0, 70));
 
     ChartDatabase copy = database;

@@ -340,6 +340,12 @@ TEST_F(ResearchFileTest, LinesWithoutAnOrderDependOnTheOrderInForce)
     ASSERT_TRUE(saveResearch(database, {}, *rebuild(database, messages)));
     EXPECT_EQ(researchState(database, {}), ResearchState::Fresh);
     EXPECT_EQ(researchState(database, {.monthFirst = true}), ResearchState::SettingsChanged);
+
+    LineParts quoted;
+    quoted.date = "\"5\"/3/1975";
+    ASSERT_TRUE(database.load(put("a.ksc", quoted.line() + "\n")));
+    ASSERT_TRUE(saveResearch(database, {}, *rebuild(database, messages)));
+    EXPECT_EQ(researchState(database, {.monthFirst = true}), ResearchState::Fresh);
 }
 
 TEST_F(ResearchFileTest, NeverWritesOverAnotherTextFile)
