@@ -5,6 +5,7 @@
 #include "app/present/CirclePlacing.h"
 #include "core/PointNames.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace kestrav::present
@@ -15,9 +16,13 @@ namespace
 
 using core::at;
 
-constexpr int kCircleCorners = 96;
-constexpr double kArcStep = 6.0; // degrees between the corners of a sector
+constexpr std::size_t kCircleCorners = 96;
+constexpr double kArcStep = 10.0; // degrees between the corners of a sector
 constexpr int kNavamshas = 108;
+
+// Texts shrink by this share until they fit, or vanish.
+constexpr double kShrinking = 0.94;
+constexpr double kVanishing = 0.01;
 
 // The edges of the rings as shares of the side, from outside.
 struct Radii
@@ -50,12 +55,24 @@ Radii radiiOf(const DiagramFrame& frame)
     return radii;
 }
 
+const std::array<Spot, kCircleCorners>& unitCircle()
+{
+    static const std::array<Spot, kCircleCorners> kCircle = [] {
+        std::array<Spot, kCircleCorners> circle;
+        for (std::size_t i = 0; i < circle.size(); ++i) {
+            circle[i] = Ring{}.spotAt(double(i) * 360.0 / kCircleCorners, 1.0);
+        }
+        return circle;
+    }();
+    return kCircle;
+}
+
 class CircleLayout
 {
 public:
     CircleLayout(const DiagramFrame& frame, DisplayList& list)
         : frame_(frame), list_(list), middle_{frame.size / 2.0, frame.size / 2.0},
-          radii_(radiiOf(frame)), houses_(circleHouses(frame)),
+          radii_(radiiOf(frame)), start_(frame.startOfCircle()), houses_(circleHouses(frame)),
           inner_(pointLabels(frame.subject, frame.options, 0))
     {
         if (frame.subject.outer != nullptr) {
@@ -80,7 +97,7 @@ public:
 private:
     [[nodiscard]] double angleOf(double longitude) const
     {
-        return 180.0 + longitude - frame_.startOfCircle();
+        return 180.0 + longitude - start_;
     }
 
     [[nodiscard]] Ring ring(double inner, double outer) const
@@ -111,9 +128,10 @@ private:
     void addCircle(double radius, std::optional<ColourRole> fill)
     {
         Shape shape;
-        for (int i = 0; i < kCircleCorners; ++i) {
-            shape.points.push_back(
-                ring(0.0, 0.0).spotAt(i * 360.0 / kCircleCorners, radius * frame_.size));
+        shape.points.reserve(unitCircle().size());
+        for (const Spot unit : unitCircle()) {
+            shape.points.push_back({middle_.x + radius * frame_.size * unit.x,
+                                    middle_.y + radius * frame_.size * unit.y});
         }
         shape.fill = fill;
         shape.stroke = ColourRole::Border;
@@ -127,25 +145,42 @@ private:
             {spot(longitude, inner), spot(longitude, outer), role, frame_.stroke});
     }
 
-    // A text around a degree of a ring, shrunk until it fits between the edges and into `room`, a
-    // length across its middle.
-    void addRingText(const std::wstring& text, double longitude, double inner, double outer,
-                     double room, ColourRole role, int region)
+    struct RingText
     {
-        const Ring edges = ring(inner, outer);
-        const double width = measured(frame_.options, text);
-        const Spot where = spot(longitude, (inner + outer) / 2.0);
-        double size = frame_.options.characterGrid ? frame_.font : 0.9 * frame_.font;
-        const auto tooLarge = [&] {
-            const Box box = boxAround(where, width * size, size, false);
-            return !edges.holds(box) || std::hypot(box.width(), size) > room;
+        std::wstring text;
+        double longitude;
+        double room; ///< across its middle
+        ColourRole role;
+        int region;
+    };
+
+    // Texts around degrees of a ring in one size, so that all fit between the edges; one that has
+    // not even then its room is smaller.
+    void addRingTexts(const std::vector<RingText>& texts, double inner, double outer)
+    {
+        const bool grid = frame_.options.characterGrid;
+        const double margin = grid ? 0.0 : 0.1 * frame_.font / frame_.size;
+        const Ring edges = ring(inner + margin, outer - margin);
+        const double radius = (inner + outer) / 2.0;
+        double size = grid ? frame_.font : 0.9 * frame_.font;
+        const auto boxOf = [&](const RingText& text, double textSize) {
+            return boxAround(spot(text.longitude, radius),
+                             measured(frame_.options, text.text) * textSize, textSize, grid);
         };
-        while (!frame_.options.characterGrid && size > 0.01 && tooLarge()) {
-            size *= 0.92;
+        for (const RingText& text : texts) {
+            while (!grid && size > kVanishing && !edges.holds(boxOf(text, size))) {
+                size *= kShrinking;
+            }
         }
-        list_.texts.push_back(
-            frame_.text(text, boxAround(where, width * size, size, frame_.options.characterGrid),
-                        role, region));
+        for (const RingText& text : texts) {
+            double own = size;
+            Box box = boxOf(text, own);
+            while (!grid && own > kVanishing && std::hypot(box.width(), own) > text.room) {
+                own *= kShrinking;
+                box = boxOf(text, own);
+            }
+            list_.texts.push_back(frame_.text(text.text, box, text.role, text.region));
+        }
     }
 
     void addSignRing()
@@ -157,6 +192,7 @@ private:
         addCircle(radii_.points, std::nullopt);
         const std::vector<DiagramLabel> bindus = binduLabels(frame_.subject, frame_.options);
         const double room = radii_.signs * 0.25 * frame_.size;
+        std::vector<RingText> texts;
         for (int sign = 1; sign <= 12; ++sign) {
             const double start = (sign - 1) * 30.0;
             addRay(start, radii_.points, radii_.signs, ColourRole::Border);
@@ -165,14 +201,15 @@ private:
             const bool named = frame_.options.labels != CellLabel::None;
             const double aside = named && !bindus.empty() ? 6.5 : 0.0;
             if (named) {
-                addRingText(shortSignName(frame_.options, sign), start + 15.0 + aside,
-                            radii_.points, radii_.signs, room, ColourRole::Label, region);
+                texts.push_back({shortSignName(frame_.options, sign), start + 15.0 + aside, room,
+                                 ColourRole::Label, region});
             }
             if (!bindus.empty()) {
-                addRingText(bindus[std::size_t(sign - 1)].text, start + 15.0 - aside, radii_.points,
-                            radii_.signs, room, ColourRole::Bindu, region);
+                texts.push_back({bindus[std::size_t(sign - 1)].text, start + 15.0 - aside, room,
+                                 ColourRole::Bindu, region});
             }
         }
+        addRingTexts(texts, radii_.points, radii_.signs);
     }
 
     void addSignRegion(int sign, double start, const std::vector<DiagramLabel>& bindus)
@@ -212,6 +249,8 @@ private:
     {
         addCircle(radii_.houses, std::nullopt);
         addCircle(radii_.hub, ColourRole::Panel);
+        constexpr double kReach = 0.055;
+        std::vector<RingText> texts;
         for (int house = 1; frame_.hasHouses && house <= 12; ++house) {
             const double start = at(houses_.starts, house - 1);
             const double length = lengthOf(house);
@@ -221,13 +260,13 @@ private:
             if (frame_.options.labels == CellLabel::None) {
                 continue;
             }
-            const double reach = 0.055;
             const double half = std::fmin(length / 2.0, 90.0) * 3.14159265358979323846 / 180.0;
             const double across =
-                2.0 * (radii_.houses - reach / 2.0) * std::sin(half) * frame_.size;
-            addRingText(std::to_wstring(house), start + length / 2.0, radii_.houses - reach,
-                        radii_.houses, 0.8 * across, ColourRole::Label, region);
+                2.0 * (radii_.houses - kReach / 2.0) * std::sin(half) * frame_.size;
+            texts.push_back({std::to_wstring(house), start + length / 2.0, 0.8 * across,
+                             ColourRole::Label, region});
         }
+        addRingTexts(texts, radii_.houses - kReach, radii_.houses);
     }
 
     void addHouseRegion(int house, double start, double length)
@@ -260,13 +299,15 @@ private:
         const double inner = std::max(radii_.signs, radii_.transits);
         const double length = 360.0 / kNavamshas;
         const double room = 0.8 * inner * length * 3.14159265358979323846 / 180.0 * frame_.size;
+        std::vector<RingText> texts;
         for (int i = 0; i < kNavamshas; ++i) {
             addRay(i * length, inner, radii_.navamsha, ColourRole::Division);
             if (!frame_.options.characterGrid) {
-                addRingText(std::to_wstring(i % 12 + 1), (i + 0.5) * length, inner, radii_.navamsha,
-                            room, ColourRole::Label, -1);
+                texts.push_back(
+                    {std::to_wstring(i % 12 + 1), (i + 0.5) * length, room, ColourRole::Label, -1});
             }
         }
+        addRingTexts(texts, inner, radii_.navamsha);
     }
 
     void addHub()
@@ -282,23 +323,18 @@ private:
         region.spoken = region.tip;
         hubRegion_ = int(list_.regions.size());
         list_.regions.push_back(std::move(region));
-        addHubText(L"D-" + std::to_wstring(analysis::vargaDivision(frame_.subject.varga)), -0.25,
-                   ColourRole::Label);
     }
 
-    // A text above or below the middle, by a share of the hub's radius.
-    Box addHubText(const std::wstring& text, double shift, ColourRole role)
+    // The box of a text above or below the middle by a share of the hub's radius.
+    [[nodiscard]] Box hubBox(const std::wstring& text, double shift) const
     {
         const double radius = radii_.hub * frame_.size;
         const double width = measured(frame_.options, text);
         const bool grid = frame_.options.characterGrid;
-        const double most = 0.62 * radius;
         const double size =
-            grid ? frame_.font : std::min({0.9 * frame_.font, most, 1.3 * radius / width});
+            grid ? frame_.font : std::min({0.9 * frame_.font, 0.62 * radius, 1.3 * radius / width});
         const Spot where{middle_.x, middle_.y + (grid ? shift * 4.0 : 1.4 * shift * radius)};
-        const Box box = boxAround(where, width * size, size, grid);
-        list_.texts.push_back(frame_.text(text, box, role, hubRegion_));
-        return box;
+        return boxAround(where, width * size, size, grid);
     }
 
     void addPoints()
@@ -311,32 +347,53 @@ private:
             band = ring(radii_.signs + gap, radii_.transits - gap);
             addBand(band, outer_, false, radii_.signs, hidden);
         }
+        const std::wstring varga =
+            L"D-" + std::to_wstring(analysis::vargaDivision(frame_.subject.varga));
+        list_.texts.push_back(frame_.text(varga, hubBox(varga, hidden.empty() ? 0.0 : -0.25),
+                                          ColourRole::Label, hubRegion_));
         if (!hidden.empty()) {
-            addMore(frame_, list_, hidden, boxOfMore(int(hidden.size())), hubRegion_, 0);
+            addMore(frame_, list_, hidden, hubBox(moreText(int(hidden.size())), 0.35), hubRegion_,
+                    0);
         }
     }
 
-    Box boxOfMore(int hidden)
+    // The labels around the circle, beginning behind the widest gap, so that none has neighbours
+    // on both ends of the list.
+    [[nodiscard]] static std::vector<const DiagramLabel*>
+    inOrder(const std::vector<DiagramLabel>& labels)
     {
-        const Box box = addHubText(moreText(hidden), 0.35, ColourRole::Text);
-        list_.texts.pop_back();
-        return box;
+        std::vector<const DiagramLabel*> order;
+        double widest = -1.0;
+        std::size_t start = 0;
+        for (std::size_t i = 0; i < labels.size(); ++i) {
+            order.push_back(&labels[i]);
+            const DiagramLabel& before = labels[(i + labels.size() - 1) % labels.size()];
+            const double gap = core::Normalize360(labels[i].longitude() - before.longitude());
+            if (gap > widest) {
+                widest = gap;
+                start = i;
+            }
+        }
+        std::rotate(order.begin(), order.begin() + std::ptrdiff_t(start), order.end());
+        return order;
     }
 
-    void addBand(const Ring& band, const std::vector<DiagramLabel>& labels, bool fromOutside,
+    void addBand(const Ring& band, const std::vector<DiagramLabel>& all, bool fromOutside,
                  double edge, std::vector<DiagramLabel>& hidden)
     {
+        const std::vector<const DiagramLabel*> labels = inOrder(all);
         std::vector<double> angles;
         std::vector<double> widths;
-        for (const DiagramLabel& label : labels) {
-            angles.push_back(angleOf(label.longitude()));
-            widths.push_back(label.width);
+        for (const DiagramLabel* const label : labels) {
+            const double first = labels.front()->longitude();
+            angles.push_back(angleOf(first) + core::Normalize360(label->longitude() - first));
+            widths.push_back(label->width);
         }
         double size = frame_.font;
         const std::vector<RingPlace> places = placeInRing(
             {band, fromOutside, angles, widths, frame_.font, frame_.options.characterGrid}, size);
         for (std::size_t i = 0; i < labels.size(); ++i) {
-            const DiagramLabel& label = labels[i];
+            const DiagramLabel& label = *labels[i];
             if (!places[i].placed) {
                 hidden.push_back(label);
                 continue;
@@ -365,6 +422,7 @@ private:
     DisplayList& list_;
     Spot middle_;
     Radii radii_;
+    double start_;
     CircleHouses houses_;
     std::vector<DiagramLabel> inner_;
     std::vector<DiagramLabel> outer_;

@@ -12,8 +12,11 @@ namespace
 
 constexpr double kRadians = 3.14159265358979323846 / 180.0;
 constexpr std::array<double, 4> kScales = {1.0, 0.9, 0.8, 0.7};
+// Before lines cross, labels become at least this small.
+constexpr double kLargestCrossing = 0.8;
+constexpr double kLineSpacing = 1.15;
 constexpr double kAngleStep = 1.5; // degrees
-constexpr int kClosePlaces = 26;   // to either side, with lines that do not cross
+constexpr int kClosePlaces = 5;    // to either side, with lines that do not cross
 constexpr int kFarPlaces = 60;
 
 double cross(Spot a, Spot b, Spot c)
@@ -49,23 +52,25 @@ class RingPlacer
 {
 public:
     RingPlacer(const RingTask& task, double size) : task_(task), size_(size)
-    {}
+    {
+        spread();
+    }
 
-    // Whether all labels found a place.
-    bool place(bool strict)
+    // Whether all labels found a place. Those that find none without crossing lines take one with
+    // them when that is allowed.
+    bool place(bool crossingAllowed)
     {
         places_.assign(task_.angles.size(), {});
         bool all = true;
         for (std::size_t i = 0; i < places_.size(); ++i) {
             const double edge = task_.fromOutside ? task_.ring.outer : task_.ring.inner;
             places_[i].tick = task_.ring.spotAt(task_.angles[i], edge);
-            const int most = strict ? kClosePlaces : kFarPlaces;
-            for (int step = 0; step < 2 * most && !places_[i].placed; ++step) {
-                const int turns = (step + 1) / 2 * (step % 2 == 0 ? 1 : -1);
-                tryAngle(i, task_.angles[i] + turns * kAngleStep, strict);
+            findPlace(i, kClosePlaces, true);
+            if (!places_[i].placed && crossingAllowed) {
+                findPlace(i, kFarPlaces, false);
             }
             all = all && places_[i].placed;
-            if (strict && !all) {
+            if (!all && !crossingAllowed) {
                 return false;
             }
         }
@@ -78,17 +83,80 @@ public:
     }
 
 private:
+    // The angle that a label takes up near its degree: beside its neighbours at the sides of the
+    // ring, partly below them where the ring runs level.
+    [[nodiscard]] double room(std::size_t i) const
+    {
+        const double angle = task_.angles[i] * kRadians;
+        const double radius = task_.ring.outer - 0.5 * size_;
+        const double tiers =
+            std::max(1.0, std::floor((task_.ring.outer - task_.ring.inner) / (1.2 * size_)));
+        const double beside = kLineSpacing * size_ / std::max(std::fabs(std::cos(angle)), 0.1);
+        const double below = kLineSpacing * task_.widths[i] * size_ /
+                             (std::max(std::fabs(std::sin(angle)), 0.1) * tiers);
+        return std::min(beside, below) / radius / kRadians;
+    }
+
+    // Moves the angles apart as little as possible without changing their order: neighbours that
+    // are too close become a group around their mean.
+    void spread()
+    {
+        struct Group
+        {
+            double mean;
+            double count;
+        };
+        std::vector<double> shift(task_.angles.size(), 0.0);
+        std::vector<Group> groups;
+        for (std::size_t i = 0; i < task_.angles.size(); ++i) {
+            if (i > 0) {
+                shift[i] = shift[i - 1] + 0.5 * (room(i - 1) + room(i));
+            }
+            groups.push_back({task_.angles[i] - shift[i], 1.0});
+            while (groups.size() > 1 && groups[groups.size() - 2].mean > groups.back().mean) {
+                const Group last = groups.back();
+                groups.pop_back();
+                Group& before = groups.back();
+                before.mean = (before.mean * before.count + last.mean * last.count) /
+                              (before.count + last.count);
+                before.count += last.count;
+            }
+        }
+        wanted_.clear();
+        for (const Group& group : groups) {
+            for (double i = 0.0; i < group.count; i += 1.0) {
+                wanted_.push_back(group.mean + shift[wanted_.size()]);
+            }
+        }
+    }
+
+    void findPlace(std::size_t i, int most, bool strict)
+    {
+        for (int step = 0; step < 2 * most && !places_[i].placed; ++step) {
+            const int turns = (step + 1) / 2 * (step % 2 == 0 ? 1 : -1);
+            tryAngle(i, wanted_[i] + turns * kAngleStep, strict);
+        }
+    }
+
     void tryAngle(std::size_t i, double angle, bool strict)
     {
-        const double depth = task_.ring.outer - task_.ring.inner;
-        const double step = task_.characterGrid ? 1.0 : 0.4 * size_;
-        const Spot unit = task_.ring.spotAt(angle, 1.0);
         const Spot middle = task_.ring.middle;
-        for (double in = 0.5 * size_; in < depth && !places_[i].placed; in += step) {
-            const double radius = task_.fromOutside ? task_.ring.outer - in : task_.ring.inner + in;
-            const Spot spot{middle.x + (unit.x - middle.x) * radius,
-                            middle.y + (unit.y - middle.y) * radius};
-            tryBox(i, boxAround(spot, task_.widths[i] * size_, size_, task_.characterGrid), strict);
+        const Spot edge = task_.ring.spotAt(angle, 1.0);
+        const Spot unit{edge.x - middle.x, edge.y - middle.y};
+        const double halfWidth = task_.widths[i] * size_ / 2.0;
+        const double halfHeight = size_ / 2.0;
+        // The farthest corner of the box reaches the outer edge.
+        const double b = std::fabs(unit.x) * halfWidth + std::fabs(unit.y) * halfHeight;
+        const double corner = halfWidth * halfWidth + halfHeight * halfHeight;
+        const double outer = task_.ring.outer;
+        const double farthest =
+            std::sqrt(std::max(b * b + outer * outer - corner, 0.0)) - b - 1e-9 * outer;
+        const double step = task_.characterGrid ? 1.0 : 0.4 * size_;
+        const int count = std::max(1, int((farthest - task_.ring.inner) / step) + 1);
+        for (int k = 0; k < count && !places_[i].placed; ++k) {
+            const double radius = farthest - step * (task_.fromOutside ? k : count - 1 - k);
+            const Spot spot{middle.x + unit.x * radius, middle.y + unit.y * radius};
+            tryBox(i, boxAround(spot, 2.0 * halfWidth, size_, task_.characterGrid), strict);
         }
     }
 
@@ -113,7 +181,7 @@ private:
             }
             if (strict && (segmentMeets(wide, other.tick, other.end) ||
                            segmentMeets(other.box, place.tick, end) ||
-                           segmentsCross(place.tick, end, other.tick, other.end))) {
+                           leadersCross(place.tick, end, other))) {
                 return;
             }
         }
@@ -122,8 +190,17 @@ private:
         place.end = end;
     }
 
+    // Two lines from one degree meet there and nowhere else.
+    static bool leadersCross(Spot tick, Spot end, const RingPlace& other)
+    {
+        const bool sameTick =
+            std::fabs(tick.x - other.tick.x) + std::fabs(tick.y - other.tick.y) < 1e-6;
+        return !sameTick && segmentsCross(tick, end, other.tick, other.end);
+    }
+
     const RingTask& task_;
     double size_;
+    std::vector<double> wanted_;
     std::vector<RingPlace> places_;
 };
 
@@ -164,16 +241,20 @@ std::vector<RingPlace> placeInRing(const RingTask& task, double& size)
 {
     const std::span<const double> scales =
         std::span<const double>(kScales).first(task.characterGrid ? 1 : kScales.size());
-    for (const double scale : scales) {
-        size = scale * task.size;
-        RingPlacer placer(task, size);
-        if (placer.place(true)) {
-            return placer.places();
+    for (const bool crossingAllowed : {false, true}) {
+        for (const double scale : scales) {
+            if (crossingAllowed && scale > kLargestCrossing && scales.size() > 1) {
+                continue;
+            }
+            size = scale * task.size;
+            RingPlacer placer(task, size);
+            const bool all = placer.place(crossingAllowed);
+            if (all || (crossingAllowed && scale == scales.back())) {
+                return placer.places();
+            }
         }
     }
-    RingPlacer placer(task, size);
-    placer.place(false);
-    return placer.places();
+    return {};
 }
 
 } // namespace kestrav::present

@@ -27,7 +27,7 @@ struct RingTask
 {
     Ring ring;
     bool fromOutside = true;        ///< the degrees are read at the outer edge of the ring
-    std::span<const double> angles; ///< of the labels
+    std::span<const double> angles; ///< of the labels in degrees, ascending
     std::span<const double> widths; ///< of the labels in em
     double size = 1.0;
     bool characterGrid = false;

@@ -20,7 +20,7 @@ namespace
 
 // Shares of the side of a diagram.
 constexpr double kFontShare = 0.038;
-constexpr double kCircleFontShare = 0.033;
+constexpr double kCircleFontShare = 0.036;
 constexpr double kDoubleFontShare = 0.028;
 constexpr double kStrokeShare = 0.0028;
 constexpr double kLeastStroke = 0.7;

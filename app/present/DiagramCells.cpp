@@ -57,7 +57,25 @@ private:
 
     [[nodiscard]] Spot toSize(Spot spot) const
     {
-        return {spot.x * frame_.size, spot.y * frame_.size};
+        const double depth = outside() ? kFrameDepth : 0.0;
+        const double scale = (1.0 - 2.0 * depth) * frame_.size;
+        return {depth * frame_.size + spot.x * scale, depth * frame_.size + spot.y * scale};
+    }
+
+    [[nodiscard]] std::vector<Spot> toSize(std::span<const Spot> spots) const
+    {
+        std::vector<Spot> result;
+        result.reserve(spots.size());
+        for (const Spot spot : spots) {
+            result.push_back(toSize(spot));
+        }
+        return result;
+    }
+
+    // Whether there is a second chart.
+    [[nodiscard]] bool outside() const
+    {
+        return frame_.subject.outer != nullptr;
     }
 
     void addCentrePanel()
@@ -65,9 +83,9 @@ private:
         if (!plan_.centre) {
             return;
         }
-        const Box& unit = *plan_.centre;
-        const Box box{unit.left * frame_.size, unit.top * frame_.size, unit.right * frame_.size,
-                      unit.bottom * frame_.size};
+        const Spot topLeft = toSize(Spot{plan_.centre->left, plan_.centre->top});
+        const Spot bottomRight = toSize(Spot{plan_.centre->right, plan_.centre->bottom});
+        const Box box{topLeft.x, topLeft.y, bottomRight.x, bottomRight.y};
         list_.shapes.push_back(
             {cornersOf(box), ColourRole::Panel, ColourRole::Border, frame_.stroke});
         addCentre(frame_, list_, box);
@@ -77,7 +95,7 @@ private:
     void addOutline(int cell)
     {
         const int sign = signOf(cell);
-        std::vector<Spot> polygon = scaled(shape(cell).polygon(), frame_.size);
+        std::vector<Spot> polygon = toSize(shape(cell).polygon());
         Shape outline{polygon, std::nullopt, ColourRole::Border, frame_.stroke};
         if (!plan_.housesStand && frame_.hasHouses && sign == frame_.first) {
             outline.fill = ColourRole::AscendantCell;
@@ -105,55 +123,31 @@ private:
     {
         const int region = regionOfCell_[std::size_t(cell)];
         const int sign = signOf(cell);
-        const std::vector<Spot> whole = list_.regions[std::size_t(region)].polygon;
         spoken_.clear();
-        if (frame_.subject.outer == nullptr) {
-            addGroup(whole, toSize(shape(cell).focus), cell, contents(sign, 0), true);
-        } else {
-            const CellShape& plan = shape(cell);
-            const double at = divisionOf(whole, plan);
-            const std::vector<Spot> outside = cutPolygon(whole, plan.outward, at);
-            const std::vector<Spot> inside =
-                cutPolygon(whole, {-plan.outward.x, -plan.outward.y}, -at);
-            addDivision(whole, plan.outward, at);
-            addGroup(inside, centreOf(inside), cell, contents(sign, 0), true);
-            addGroup(outside, centreOf(outside), cell, contents(sign, 1), false);
+        addGroup({list_.regions[std::size_t(region)].polygon, toSize(shape(cell).focus), cell,
+                  region, 0});
+        if (outside()) {
+            addFrameCell(cell);
         }
         list_.regions[std::size_t(region)].spoken =
             spokenPlace(frame_.houseOf(sign), sign, spoken_);
     }
 
-    static double divisionOf(const std::vector<Spot>& polygon, const CellShape& plan)
+    void addFrameCell(int cell)
     {
-        double low = 1e9;
-        double high = -1e9;
-        for (const Spot spot : polygon) {
-            const double along = spot.x * plan.outward.x + spot.y * plan.outward.y;
-            low = std::min(low, along);
-            high = std::max(high, along);
-        }
-        return low + plan.division * (high - low);
-    }
-
-    void addDivision(const std::vector<Spot>& polygon, Spot outward, double at)
-    {
-        std::vector<Spot> ends;
-        for (std::size_t i = 0; i < polygon.size(); ++i) {
-            const Spot a = polygon[i];
-            const Spot b = polygon[(i + 1) % polygon.size()];
-            const double atA = a.x * outward.x + a.y * outward.y - at;
-            const double atB = b.x * outward.x + b.y * outward.y - at;
-            if (std::fabs(atA) < 1e-9) {
-                ends.push_back(a);
-            } else if ((atA < -1e-9 && atB > 1e-9) || (atA > 1e-9 && atB < -1e-9)) {
-                const double share = atA / (atA - atB);
-                ends.push_back({a.x + share * (b.x - a.x), a.y + share * (b.y - a.y)});
-            }
-        }
-        if (ends.size() == 2) {
-            list_.lines.push_back(
-                {ends[0], ends[1], ColourRole::Division, 0.7 * frame_.stroke, true, false});
-        }
+        const FrameShape& shape = plan_.frame[std::size_t(cell)];
+        Region region;
+        region.kind = RegionKind::Sign;
+        region.index = signOf(cell);
+        region.house = frame_.houseOf(region.index);
+        region.layer = 1;
+        region.polygon = scaled(shape.polygon(), frame_.size);
+        region.tip = signTip(region.index, region.house);
+        list_.shapes.push_back({region.polygon, std::nullopt, ColourRole::Border, frame_.stroke});
+        const int index = int(list_.regions.size());
+        list_.regions.push_back(std::move(region));
+        const std::vector<Spot> room = scaled(shape.room, frame_.size);
+        addGroup({room, centreOf(room), cell, index, 1});
     }
 
     [[nodiscard]] double strokeReach() const
@@ -176,20 +170,44 @@ private:
         return found;
     }
 
-    void addGroup(const std::vector<Spot>& polygon, Spot focus, int cell,
-                  const std::vector<const DiagramLabel*>& labels, bool withNumber)
+    // Labels that are packed together.
+    struct Group
     {
-        const ConvexArea area(polygon, frame_.marginX(), frame_.marginY());
+        std::vector<Spot> polygon;
+        Spot focus;
+        int cell;
+        int region;
+        int layer;
+    };
+
+    // What the labels of a cell must keep away from.
+    std::vector<Box> obstaclesOf(const Group& group)
+    {
         std::vector<Box> obstacles;
-        if (withNumber && frame_.options.labels != CellLabel::None) {
-            obstacles.push_back(addNumber(area, cell));
+        const int cell = group.cell;
+        if (frame_.options.labels != CellLabel::None) {
+            // Numbers may come closer to a border, since their places are narrow.
+            const double share = frame_.options.characterGrid ? 1.0 : 0.35;
+            obstacles.push_back(addNumber(
+                ConvexArea(group.polygon, share * frame_.marginX(), share * frame_.marginY()),
+                cell));
         }
         if (plan_.cornerStroke && frame_.hasHouses && signOf(cell) == frame_.first) {
-            const Spot corner =
-                list_.regions[std::size_t(regionOfCell_[std::size_t(cell)])].polygon.front();
+            const Spot corner = toSize(shape(cell).corners.front());
             obstacles.push_back(
                 {corner.x, corner.y, corner.x + strokeReach(), corner.y + strokeReach()});
         }
+        return obstacles;
+    }
+
+    void addGroup(const Group& group)
+    {
+        const ConvexArea area(group.polygon, frame_.marginX(), frame_.marginY());
+        std::vector<Box> obstacles;
+        if (group.layer == 0) {
+            obstacles = obstaclesOf(group);
+        }
+        const std::vector<const DiagramLabel*> labels = contents(signOf(group.cell), group.layer);
         std::vector<double> widths;
         for (const DiagramLabel* const label : labels) {
             widths.push_back(label->width);
@@ -199,22 +217,21 @@ private:
             return;
         }
         const bool onlyBindus = inner_.empty() && outer_.empty() && !frame_.options.characterGrid;
-        const Packing packing =
-            packLabels({area, focus, obstacles, widths, frame_.font * (onlyBindus ? 1.5 : 1.0),
-                        frame_.options.characterGrid, [this](int hidden) {
-                            return measured(frame_.options, moreText(hidden));
-                        }});
-        const int region = regionOfCell_[std::size_t(cell)];
+        const Packing packing = packLabels({area, group.focus, obstacles, widths,
+                                            frame_.font * (onlyBindus ? 1.5 : 1.0),
+                                            frame_.options.characterGrid, [this](int hidden) {
+                                                return measured(frame_.options, moreText(hidden));
+                                            }});
+        const int house = frame_.houseOf(signOf(group.cell));
         for (std::size_t i = 0; i < packing.boxes.size(); ++i) {
-            addPoint(frame_, list_, *labels[i], packing.boxes[i], region,
-                     frame_.houseOf(signOf(cell)));
+            addPoint(frame_, list_, *labels[i], packing.boxes[i], group.region, house);
         }
         if (packing.hidden > 0) {
             std::vector<DiagramLabel> hidden;
             for (std::size_t i = packing.boxes.size(); i < labels.size(); ++i) {
                 hidden.push_back(*labels[i]);
             }
-            addMore(frame_, list_, hidden, packing.more, region, frame_.houseOf(signOf(cell)));
+            addMore(frame_, list_, hidden, packing.more, group.region, house);
         }
     }
 

@@ -7,16 +7,6 @@
 namespace kestrav::present
 {
 
-namespace
-{
-
-double dot(Spot one, Spot other)
-{
-    return one.x * other.x + one.y * other.y;
-}
-
-} // namespace
-
 ConvexArea::ConvexArea(const std::vector<Spot>& polygon, double marginX, double marginY)
 {
     assert(polygon.size() >= 3 && polygon.size() <= kMostEdges);
@@ -65,25 +55,6 @@ bool ConvexArea::holds(const Box& box) const
 {
     const Interval interval = across(box.top, box.bottom);
     return interval.low <= box.left + 1e-9 && box.right <= interval.high + 1e-9;
-}
-
-std::vector<Spot> cutPolygon(const std::vector<Spot>& polygon, Spot direction, double from)
-{
-    std::vector<Spot> result;
-    for (std::size_t i = 0; i < polygon.size(); ++i) {
-        const Spot a = polygon[i];
-        const Spot b = polygon[(i + 1) % polygon.size()];
-        const double atA = dot(a, direction) - from;
-        const double atB = dot(b, direction) - from;
-        if (atA >= 0.0) {
-            result.push_back(a);
-        }
-        if ((atA > 0.0 && atB < 0.0) || (atA < 0.0 && atB > 0.0)) {
-            const double share = atA / (atA - atB);
-            result.push_back({a.x + share * (b.x - a.x), a.y + share * (b.y - a.y)});
-        }
-    }
-    return result;
 }
 
 Spot centreOf(const std::vector<Spot>& polygon)

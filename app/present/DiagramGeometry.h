@@ -75,10 +75,6 @@ private:
     double area_ = 0.0;
 };
 
-/// The part of a convex polygon where the direction's coordinate is at least `from`.
-[[nodiscard]] std::vector<Spot> cutPolygon(const std::vector<Spot>& polygon, Spot direction,
-                                           double from);
-
 /// The centre of gravity.
 [[nodiscard]] Spot centreOf(const std::vector<Spot>& polygon);
 

@@ -106,16 +106,17 @@ private:
         if (options_.retrograde && state.retrograde) {
             text += L"(R)";
         }
-        if (options_.combust && state.combust) {
-            text += L"c";
-        }
         if (options_.dignity && state.exalted()) {
             text += kUpArrow;
         } else if (options_.dignity && state.debilitated()) {
             text += kDownArrow;
         }
         // An arudha is a sign; its degree is that of the ascendant.
-        return isArudha(label.point) ? text : text + degreeText(label.position, options_.degrees);
+        if (!isArudha(label.point)) {
+            text += degreeText(label.position, options_.degrees);
+        }
+        // Behind the degrees, since "Mec" would read as a name.
+        return options_.combust && state.combust ? text + L" c" : text;
     }
 
     [[nodiscard]] std::wstring tip(const DiagramLabel& label, const PointState& state) const

@@ -19,9 +19,6 @@ constexpr double kGapBetweenLabels = 0.5; // em
 // Below this share of its size a text is no longer drawn.
 constexpr double kVanishing = 1e-3;
 
-// The distance of candidate positions, in lines.
-constexpr double kShiftStep = 0.25;
-
 class Packer
 {
 public:
@@ -40,8 +37,12 @@ public:
         }
         for (const double scale : scales()) {
             for (int columns = 2; columns <= kMostColumns && enoughArea(scale); ++columns) {
+                widestLine_ = 0;
                 if (place(task_.widths, columns, scale)) {
                     return {scale * task_.size, boxes_, 0, {}};
+                }
+                if (widestLine_ < std::size_t(columns)) {
+                    break; // more columns change nothing
                 }
             }
         }
@@ -100,7 +101,7 @@ private:
         if (height > task_.area.bottom() - task_.area.top()) {
             return false;
         }
-        const double step = task_.characterGrid ? line : line * kShiftStep;
+        const double step = task_.characterGrid ? line : line * (columns == 1 ? 0.25 : 0.5);
         const double first = task_.focus.y - height / 2.0;
         const double room = task_.area.bottom() - task_.area.top();
         for (int i = 0; i * step < room; ++i) {
@@ -117,6 +118,12 @@ private:
         boxes_.clear();
         if (task_.characterGrid) {
             top = 2.0 * std::floor(top / 2.0) + 1.0;
+        }
+        const auto lines =
+            double((widths.size() + std::size_t(columns) - 1) / std::size_t(columns));
+        if (top < task_.area.top() ||
+            top + (lines - 1.0) * line + size > task_.area.bottom() + 1e-9) {
+            return false;
         }
         // A line may be too narrow for any label; later ones can be wider.
         while (boxes_.size() < widths.size() && top < task_.area.bottom()) {
@@ -162,6 +169,7 @@ private:
                 return;
             }
         }
+        widestLine_ = std::max(widestLine_, count);
         for (std::size_t i = 0; i < count; ++i) {
             const double width = widths[i] * size;
             boxes_.push_back({left, top, left + width, top + size});
@@ -189,6 +197,7 @@ private:
 
     const PackingTask& task_;
     std::vector<Box> boxes_;
+    std::size_t widestLine_ = 0; ///< labels in the fullest line since it was cleared
 };
 
 } // namespace

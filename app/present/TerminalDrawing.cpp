@@ -25,6 +25,9 @@ constexpr std::wstring_view kBoxCharacters = L" \u2502\u2502\u2502\u2500\u2518\u
                                              L"\u2500\u2514\u250C\u251C\u2500\u2534\u252C\u253C";
 static_assert(kBoxCharacters.size() == 16);
 
+// Lines of which the ends differ by less are level or upright.
+constexpr double kStraight = 1e-6;
+
 // The second column of a character that takes two.
 constexpr wchar_t kContinued = L'\0';
 
@@ -43,11 +46,11 @@ public:
         const int x1 = int(std::lround(to.x));
         const int y0 = int(std::lround(from.y / 2.0));
         const int y1 = int(std::lround(to.y / 2.0));
-        if (y0 == y1) {
+        if (std::fabs(from.y - to.y) < kStraight) {
             level(y0, std::min(x0, x1), std::max(x0, x1));
-        } else if (x0 == x1) {
+        } else if (std::fabs(from.x - to.x) < kStraight) {
             upright(x0, std::min(y0, y1), std::max(y0, y1));
-        } else if (std::fabs(std::fabs(to.x - from.x) - std::fabs(to.y - from.y)) < 1e-6) {
+        } else if (std::fabs(std::fabs(to.x - from.x) - std::fabs(to.y - from.y)) < kStraight) {
             diagonal(y0 < y1 ? from : to, y0 < y1 ? to : from);
         } else {
             dots(from, to);
