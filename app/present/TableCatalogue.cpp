@@ -1,0 +1,183 @@
+#include "app/present/TableCatalogue.h"
+
+#include "analysis/Ashtakavarga.h"
+#include "app/present/AshtakavargaTables.h"
+#include "app/present/ChartTables.h"
+#include "app/present/DashaTables.h"
+#include "app/present/DignityTables.h"
+#include "app/present/PersonTables.h"
+#include "app/present/SpecialPointTables.h"
+#include "app/present/StrengthTables.h"
+#include "app/present/VargaTables.h"
+#include "timing/ConditionalDashas.h"
+#include "timing/DashaQuery.h"
+
+#include <algorithm>
+#include <array>
+
+namespace kestrav::present
+{
+
+namespace
+{
+
+using Made = core::Result<Table>;
+
+// A list that has no other end stops at this age.
+constexpr double kOldestAge = 120.0;
+
+template <Table (*Make)(const ComputedChart&)>
+Made chartTable(const TableSource& source)
+{
+    return Make(source.computed);
+}
+
+template <Table (*Make)(const Strengths&)>
+Made strengthTable(const TableSource& source)
+{
+    return Make(Strengths(source.computed, source.nameLetter));
+}
+
+template <Table (*Make)(const analysis::Ashtakavarga&)>
+Made binduTable(const TableSource& source)
+{
+    return Make(analysis::computeAshtakavarga(source.computed.chart, source.varga, true));
+}
+
+Made vargaOfSource(const TableSource& source)
+{
+    return vargaTable(source.computed, source.varga);
+}
+
+Made mainVargaSigns(const TableSource& source)
+{
+    return vargaSignsTable(source.computed, mainPoints(source.computed));
+}
+
+core::Result<DashaResult> chosenDasha(const TableSource& source)
+{
+    const core::Settings& settings = source.computed.settings;
+    DashaResult result{timing::dashaOptions(settings), {}, {}, {}, {}, {}};
+    core::Result<timing::Dasha> dasha =
+        timing::dashaOf(source.computed.chart, settings, result.options, source.series);
+    if (!dasha) {
+        return dasha.error();
+    }
+    result.dasha = std::move(dasha.value());
+    return result;
+}
+
+Made dashaHead(const TableSource& source)
+{
+    const core::Result<DashaResult> result = chosenDasha(source);
+    return result ? Made(dashaSummary(source.computed, result.value())) : result.error();
+}
+
+Made dashaList(const TableSource& source)
+{
+    core::Result<DashaResult> result = chosenDasha(source);
+    if (!result) {
+        return result.error();
+    }
+    timing::DashaSpan span;
+    span.levels = source.levels;
+    span.endAge = kOldestAge;
+    span.budget = source.lines > 0 ? source.lines : span.budget;
+    for (const timing::DashaPeriod& period : timing::DashaList(result.value().dasha, span)) {
+        result.value().periods.push_back(period);
+    }
+    return dashaPeriodsTable(source.computed, result.value());
+}
+
+Made runningDashas(const TableSource& source)
+{
+    core::Result<DashaResult> result = chosenDasha(source);
+    if (!result) {
+        return result.error();
+    }
+    if (!source.computed.chart.hasMoment) {
+        return core::Error{"a chart of bare positions has ages, but no dates"};
+    }
+    result.value().moment = source.moment;
+    const timing::Dasha& dasha = result.value().dasha;
+    const double age = dasha.calendar.ageAt(source.moment);
+    for (int level = 1; level <= timing::kDashaLevels; ++level) {
+        if (const auto period = timing::periodAtAge(dasha, age, level)) {
+            result.value().running.push_back(*period);
+        }
+    }
+    return runningDashasTable(source.computed, result.value());
+}
+
+Made conditionalDashas(const TableSource& source)
+{
+    const core::Settings& settings = source.computed.settings;
+    std::vector<int> systems;
+    for (const int system : timing::kConditionalDashas) {
+        if (timing::dashaApplies(source.computed.chart, settings, timing::dashaOptions(settings),
+                                 system)) {
+            systems.push_back(system);
+        }
+    }
+    return conditionalDashasTable(systems);
+}
+
+const std::array<TableInfo, 35> kTables = {{
+    {"birth-data", L"name, place, date, time and coordinates", chartTable<birthTable>},
+    {"time", L"Universal Time, Delta T, Julian day, ayanamsa, sidereal time",
+     chartTable<timeTable>},
+    {"daylight", L"sunrise and sunset of the date", chartTable<daylightTable>},
+    {"sun", L"sunrise, noon and sunset to the second", chartTable<sunTable>},
+    {"vedic-day", L"the day from sunrise to sunrise", chartTable<vedicDayTable>},
+    {"positions", L"ascendant and bodies with nakshatra and motion", chartTable<positionsTable>},
+    {"house-system", L"house system, ascendant, midheaven, obliquity", chartTable<housesSummary>},
+    {"houses", L"cusps and sandhis", chartTable<housesTable>},
+    {"special-points", L"upagrahas, special lagnas, arudhas and other points",
+     chartTable<specialPointsTable>},
+    {"karakas", L"the chara karakas", chartTable<karakasTable>},
+    {"yogi", L"Yogi and Avayogi", chartTable<yogiTable>},
+    {"sphutas", L"the sphutas", chartTable<sphutasTable>},
+    {"sahams", L"all sahams", chartTable<sahamsTable>},
+    {"varga-signs", L"signs in all divisional charts", mainVargaSigns},
+    {"varga", L"one divisional chart", vargaOfSource},
+    {"vimshopaka", L"strength from the divisional charts", chartTable<vimshopakaTable>},
+    {"planets", L"dignity, combustion and functional nature", chartTable<planetsTable>},
+    {"dignities", L"dignities in the divisional charts", chartTable<dignitiesTable>},
+    {"natural-relationships", L"friends and enemies by nature",
+     [](const TableSource& /*source*/) -> Made {
+         return naturalRelationshipsTable();
+     }},
+    {"compound-relationships", L"friends and enemies in this chart",
+     chartTable<compoundRelationshipsTable>},
+    {"shadbala", L"shadbala with every part", strengthTable<shadbalaTable>},
+    {"shadbala-totals", L"totals of shadbala", strengthTable<shadbalaTotalsTable>},
+    {"bhava-bala", L"strength of the houses", strengthTable<bhavaBalaTable>},
+    {"avasthas", L"states of the planets", strengthTable<avasthasTable>},
+    {"planetary-war", L"wars and their winners", strengthTable<warsTable>},
+    {"aspects", L"aspects of the planets on each other", strengthTable<bodyAspectsTable>},
+    {"house-aspects", L"aspects of the planets on the houses", strengthTable<houseAspectsTable>},
+    {"ashtakavarga", L"bindus with their sums", binduTable<ashtakavargaTable>},
+    {"pinda", L"pindas after the reductions", binduTable<pindaTable>},
+    {"dasha", L"the chosen dasha and the balance at birth", dashaHead},
+    {"dashas", L"periods of the chosen dasha", dashaList},
+    {"running-dashas", L"periods that run at the moment", runningDashas},
+    {"conditional-dashas", L"conditional dashas that apply", conditionalDashas},
+    {"events", L"the events of the native's life", chartTable<eventsTable>},
+    {"contact", L"where the native can be reached", chartTable<contactTable>},
+}};
+
+} // namespace
+
+std::span<const TableInfo> allTables()
+{
+    return kTables;
+}
+
+const TableInfo* findTable(std::string_view id)
+{
+    const auto* const found = std::find_if(kTables.begin(), kTables.end(),
+                                           [&](const TableInfo& info) { return info.id == id; });
+    return found == kTables.end() ? nullptr : found;
+}
+
+} // namespace kestrav::present
