@@ -5,6 +5,7 @@
 #include "app/cli/ChartCommands.h"
 #include "app/cli/MatchCommand.h"
 #include "app/cli/SettingsCommands.h"
+#include "app/cli/TransitCommand.h"
 
 #include <array>
 
@@ -23,6 +24,7 @@ std::span<const Command* const> allCommands()
     static const AshtakavargaCommand ashtakavarga;
     static const PointsCommand points;
     static const MatchCommand match;
+    static const TransitsCommand transits;
     static const ListSettingsCommand listSettings;
     static const GetSettingCommand getSetting;
     static const SetSettingCommand setSetting;
@@ -41,6 +43,7 @@ std::span<const Command* const> allCommands()
         &ashtakavarga,
         &points,
         &match,
+        &transits,
         &listSettings,
         &getSetting,
         &setSetting,

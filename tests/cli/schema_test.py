@@ -69,6 +69,13 @@ class Schema(ProgramTest):
         jsonschema.validate(topics, SCHEMA)
         self.assertEqual(list(topics), definition("topics")["required"])
 
+    def test_transits(self):
+        span = ["--from", "1997-01-01", "--to", "1997-03-31"]
+        for words in (EXAMPLE[:6] + ["--kinds", "all"], EXAMPLE + ["--kakshyas", "--sade-sati"],
+                      ["--mode", "transit"]):
+            output = self.check("transits", *words, *span)
+            self.assertGreater(len(output["events"]), 100)
+
     def test_settings(self):
         for command in ("settings list", "settings reset", "settings ayanamsa list",
                         "settings ayanamsa reset"):
