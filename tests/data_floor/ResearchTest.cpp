@@ -348,6 +348,35 @@ TEST_F(ResearchFileTest, LinesWithoutAnOrderDependOnTheOrderInForce)
     EXPECT_EQ(researchState(database, {.monthFirst = true}), ResearchState::Fresh);
 }
 
+TEST_F(ResearchFileTest, ARefreshThatFailsOrIsKilledIsNeverTakenForAFreshOne)
+{
+    ChartDatabase database;
+    ASSERT_TRUE(database.load(put("a.ksc", lineOf("Mira") + "\n")));
+    PreparedMessages messages;
+    ASSERT_TRUE(saveResearch(database, {}, *rebuild(database, messages)));
+    const std::string old = get("a.txt");
+    database.addLine(lineOf("Sam"));
+    const std::optional<ResearchLines> lines = rebuild(database, messages);
+    const auto refresh = [&] {
+        return saveResearch(database, {}, *lines) ? 0 : 1;
+    };
+    const rlim_t size = lines->at(0).size() + lines->at(1).size() + 2;
+    for (rlim_t limit = 0; limit < size; limit += 199) {
+        EXPECT_EQ(inChild([&] {
+                      const rlimit room{limit, limit};
+                      return ::setrlimit(RLIMIT_FSIZE, &room) == 0 ? refresh() : 2;
+                  }),
+                  -1)
+            << limit;
+        EXPECT_EQ(get("a.txt"), old) << limit;
+        EXPECT_NE(researchState(database, {}), ResearchState::Fresh) << limit;
+        EXPECT_EQ(onFullDisk(limit, refresh), 1) << limit;
+        EXPECT_EQ(get("a.txt"), old) << limit;
+    }
+    EXPECT_EQ(refresh(), 0);
+    EXPECT_EQ(researchState(database, {}), ResearchState::Fresh);
+}
+
 TEST_F(ResearchFileTest, NeverWritesOverAnotherTextFile)
 {
     ChartDatabase database;
