@@ -124,6 +124,9 @@ bool Evaluation::overSet(const SetWord& word, std::size_t index, const Place* it
             store(truth, (missing ? L"there is no position for " : L"there are none of ") +
                              setWords(word));
         } else {
+            if (missing && !truth) {
+                store(false, L"one of " + setWords(word) + L" has no position");
+            }
             summarise(begin, truth, word, hits);
         }
     }

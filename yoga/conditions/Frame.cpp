@@ -402,10 +402,11 @@ std::uint32_t Frame::cluster(int varga)
 
 std::uint32_t Frame::dynamicMembers(PlanetSet set, int varga)
 {
-    const auto those = [](int first, int last, auto test) {
+    // A planet without position has no nature or state.
+    const auto those = [&](int first, int last, auto test) {
         std::uint32_t mask = 0;
         for (int planet = first; planet <= last; ++planet) {
-            mask |= test(planet) ? bit(planet) : 0U;
+            mask |= at(rashi_, planet) != 0 && test(planet) ? bit(planet) : 0U;
         }
         return mask;
     };
