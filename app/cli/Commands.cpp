@@ -3,7 +3,9 @@
 #include "app/cli/AnalysisCommands.h"
 #include "app/cli/AyanamsaCommands.h"
 #include "app/cli/ChartCommands.h"
+#include "app/cli/DashaCommand.h"
 #include "app/cli/MatchCommand.h"
+#include "app/cli/PanchangaCommand.h"
 #include "app/cli/SettingsCommands.h"
 #include "app/cli/TransitCommand.h"
 
@@ -24,6 +26,8 @@ std::span<const Command* const> allCommands()
     static const AshtakavargaCommand ashtakavarga;
     static const PointsCommand points;
     static const MatchCommand match;
+    static const DashaCommand dasha;
+    static const PanchangaCommand panchanga;
     static const TransitsCommand transits;
     static const ListSettingsCommand listSettings;
     static const GetSettingCommand getSetting;
@@ -43,6 +47,8 @@ std::span<const Command* const> allCommands()
         &ashtakavarga,
         &points,
         &match,
+        &dasha,
+        &panchanga,
         &transits,
         &listSettings,
         &getSetting,

@@ -74,10 +74,10 @@ std::wstring startText(const timing::DashaOptions& options)
         return {};
     }
     const bool derived = options.startPoint >= timing::kKshemaStart;
-    return L", from " +
+    return L", start point " +
            (derived ? std::wstring(at(kDerivedStarts, options.startPoint - timing::kKshemaStart))
-                    : L"the nakshatra of " + pointLabel(options.startPoint)) +
-           (options.fractionByTime && options.startPoint == core::kMoon ? L" by time" : L"");
+                    : pointLabel(options.startPoint)) +
+           (options.fractionByTime && options.startPoint == core::kMoon ? L", by time" : L"");
 }
 
 std::wstring yearText(const timing::DashaOptions& options)
@@ -150,7 +150,9 @@ public:
             cells.push_back(momentCell(dasha_.calendar.julianDayOf(period.endAge())));
         }
         const int decimals = decimalsFor(precision_);
-        cells.push_back(numberCell(period.startAge, decimals));
+        // What is shown as zero has no sign.
+        const bool isZero = std::fabs(period.startAge) < 0.5 * std::pow(10.0, -decimals);
+        cells.push_back(numberCell(isZero ? 0.0 : period.startAge, decimals));
         cells.push_back(numberCell(period.length, decimals));
         addSigns(period, cells);
         table_.add(std::move(cells));

@@ -54,7 +54,12 @@ std::wstring TextTable::text() const
         endLine(line);
         text += line;
     };
-    addLine(headings);
+    const auto isEmpty = [](const std::wstring& heading) {
+        return heading.empty();
+    };
+    if (!std::all_of(headings.begin(), headings.end(), isEmpty)) {
+        addLine(headings);
+    }
     for (const std::vector<std::wstring>& row : rows_) {
         addLine(row);
     }

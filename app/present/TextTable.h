@@ -35,7 +35,8 @@ public:
     /// Adds a row with one cell for each column.
     void add(std::vector<std::wstring> cells);
 
-    /// The table with its heading, every line ended and without blanks at its end.
+    /// The table with its heading, if a column has one, every line ended and without blanks at its
+    /// end.
     [[nodiscard]] std::wstring text() const;
 
 private:

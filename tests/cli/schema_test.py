@@ -76,6 +76,20 @@ class Schema(ProgramTest):
             output = self.check("transits", *words, *span)
             self.assertGreater(len(output["events"]), 100)
 
+    def test_dashas_and_panchanga(self):
+        bare = ["--positions", self.positions(HOROSCOPE_R)]
+        for words in (EXAMPLE + ["--at", "2020-01-01", "--conditional"], IDES, bare,
+                      EXAMPLE + ["--system", "kala", "--levels", "5", "--lines", "50"],
+                      EXAMPLE[:6] + ["--system", "sudarshana", "--levels", "1"]):
+            with self.subTest(words=words):
+                self.check("dasha", *words)
+        systems = self.json("dasha", "--list")
+        jsonschema.validate(systems, SCHEMA)
+        self.assertEqual(list(systems), definition("dashaSystems")["required"])
+        self.check("panchanga", *EXAMPLE, "--native-star", "Swati")
+        self.check("panchanga", "--month", "1996-06", *POLAR[4:])
+        self.check("panchanga", "--month", "-0044-03", *IDES[4:])
+
     def test_settings(self):
         for command in ("settings list", "settings reset", "settings ayanamsa list",
                         "settings ayanamsa reset"):
