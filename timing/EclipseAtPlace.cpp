@@ -185,9 +185,21 @@ void storeMoon(EclipseAtPlace& seen, const Place& place, const Eclipse& eclipse)
     for (const EclipseContact& contact : lunarContacts(eclipse)) {
         seen.contacts.push_back(place.contact(contact.kind, contact.julianDay));
     }
-    seen.seen = place.upIn({seen.contacts.front().julianDay, seen.contacts.back().julianDay});
-    if (seen.contacts.front().up && !seen.seen) {
-        seen.seen = Span{eclipse.julianDay, eclipse.julianDay}; // it only touches the penumbra
+    // One that nearly misses the penumbra has its greatest moment only.
+    const auto phase = [&](double halfMinutes) {
+        const double half = halfMinutes * kMinute;
+        return place.upIn({eclipse.julianDay - half, eclipse.julianDay + half});
+    };
+    seen.seen = phase(eclipse.halfPenumbral);
+    if (!seen.seen) {
+        return;
+    }
+    seen.seenType = EclipseType::Penumbral;
+    if (eclipse.halfPartial > 0.0 && phase(eclipse.halfPartial)) {
+        seen.seenType = EclipseType::Partial;
+    }
+    if (eclipse.halfTotal > 0.0 && phase(eclipse.halfTotal)) {
+        seen.seenType = EclipseType::Total;
     }
 }
 
@@ -244,6 +256,9 @@ void storeSun(EclipseAtPlace& seen, const Place& place, const Eclipse& eclipse)
     }
     seen.contacts.push_back(place.contact(ContactKind::PartialEnd, partial->to));
     seen.seen = place.upIn(*partial);
+    if (seen.seen) {
+        seen.seenType = full && place.upIn(*full) ? seen.type : EclipseType::Partial;
+    }
 }
 
 } // namespace

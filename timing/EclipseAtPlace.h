@@ -58,6 +58,10 @@ struct EclipseAtPlace
     /// total; of one of the Moon its type. Nothing where the Moon's shadow would not come.
     std::optional<EclipseType> type;
 
+    /// The greatest phase during which the body is up: of a total eclipse of the Moon that sets in
+    /// the penumbra penumbral. Nothing when it is not visible.
+    std::optional<EclipseType> seenType;
+
     /// At the greatest phase for the place. Of the Sun: (s + m - d) / 2s with the radii of Sun and
     /// Moon and the distance of their centres; of the Moon that of the eclipse.
     double magnitude = 0.0;

@@ -236,6 +236,7 @@ Json localJson(const present::ShownEclipse& shown)
     object["type"] = textJson(timing::eclipseTypeName(*shown.seen->type));
     object["magnitude"] = numberJson(shown.seen->magnitude);
     const std::optional<timing::Span>& seen = shown.seen->seen;
+    object["seenType"] = seen ? textJson(timing::eclipseTypeName(*shown.seen->seenType)) : Json();
     object["seenFrom"] = seen ? Json(seen->from) : Json();
     object["seenTo"] = seen ? Json(seen->to) : Json();
     return object;

@@ -110,7 +110,8 @@ Table eclipsesTable(const std::vector<ShownEclipse>& eclipses, const EclipseCloc
                    positionCell(eclipse.moonLongitude),
                    nakshatraCell(eclipse.moonLongitude)};
         if (place) {
-            row.emplace_back(shown.seen->visible ? L"yes" : L"no");
+            row.emplace_back(shown.seen->visible ? timing::eclipseTypeName(*shown.seen->seenType)
+                                                 : std::wstring_view(L"no"));
         }
         table.add(std::move(row));
     }

@@ -29,7 +29,7 @@ struct EclipseClock
 };
 
 /// One row for each eclipse: greatest moment, type, magnitude, the places of Sun and Moon, and
-/// whether it is seen where a place is given.
+/// the phase that is seen where a place is given.
 [[nodiscard]] Table eclipsesTable(const std::vector<ShownEclipse>& eclipses,
                                   const EclipseClock& clock);
 

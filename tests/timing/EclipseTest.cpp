@@ -418,6 +418,7 @@ TEST_F(EclipseSearch, partialSetAndUnseenEclipsesOfTheSun)
     EXPECT_NEAR(setting.seen->from, setting.contacts.front().julianDay, kMinute / 60.0);
     EXPECT_NEAR(setting.seen->to, utDay(2017, 8, 21, 19, 11), 3.0 * kMinute);
     EXPECT_LT(setting.magnitude, 0.1);
+    EXPECT_EQ(setting.seenType, EclipseType::Partial);
 
     // At Delhi it is night, and the shadow never comes to Sydney.
     const EclipseAtPlace night = eclipseAtPlace(sky, american, delhi);
@@ -463,7 +464,14 @@ TEST_F(EclipseSearch, eclipseOfTheMoonFromPlaces)
     EXPECT_FALSE(london.contacts[2].up);
     EXPECT_NEAR(london.seen->from, utDay(2018, 7, 27, 19, 49), 3.0 * kMinute);
     EXPECT_EQ(london.seen->to, london.contacts.back().julianDay);
-    EXPECT_FALSE(eclipseAtPlace(sky, eclipse, {-74.006, 40.7128, -4.0}).visible);
+    EXPECT_EQ(london.seenType, EclipseType::Total);
+    const EclipseAtPlace newYork = eclipseAtPlace(sky, eclipse, {-74.006, 40.7128, -4.0});
+    EXPECT_FALSE(newYork.visible || newYork.seenType);
+    // At Pune only the penumbra of 2024 September 18 was to be seen, before moonset.
+    const EclipseAtPlace pune =
+        eclipseAtPlace(sky, onlyOne(utDay(2024, 9, 18, 2, 44), false), {73.86, 18.52, 5.5});
+    EXPECT_EQ(pune.type, EclipseType::Partial);
+    EXPECT_EQ(pune.seenType, EclipseType::Penumbral);
 }
 
 TEST_F(EclipseSearch, moonPhases)
