@@ -19,6 +19,7 @@ using core::at;
 constexpr double kSecondPart = 1e-6; // days, about a tenth of a second
 constexpr double kPairStep = 1.0;    // days between samples of two bodies of which one is fast
 constexpr double kSlowPairStep = 4.0;
+constexpr std::size_t kFewHouses = 2;
 constexpr double kLongestStay = 1500.0;   // days; Saturn stays up to 950 in a sign
 constexpr double kVeryLongStay = 20000.0; // Pluto
 
@@ -77,7 +78,8 @@ public:
     }
 
     // Calls `visit` for every moment at which the body is `beyond` degrees past the exact place of
-    // a house-distance that the aspect choice can contain.
+    // a house-distance that the aspect choice can contain, and perhaps of others. A few places are
+    // cheaper to search one by one, many of them in one walk.
     void walk(double beyond, FunctionRef<void(const Crossing&, int)> visit) const
     {
         const auto curve = [this](double day) {
@@ -86,26 +88,19 @@ public:
         };
         const CurveShape shape =
             isNative() ? transitShape(body_) : transitPairShape(body_, target_);
-        const bool byGraha = context_.aspectChoice == kGrahaAspects ||
-                             context_.aspectChoice == kGrahaAspects4 ||
-                             context_.aspectChoice == kGrahaAspects5;
-        if (!byGraha) {
-            forEachCrossing(curve, shape, search_.span, {beyond, 30.0}, [&](const Crossing& found) {
-                visit(found, found.level % 12 + 1);
+        const auto visitAll = [&](Levels levels, int firstHouse) {
+            forEachCrossing(curve, shape, search_.span, levels, [&](const Crossing& found) {
+                visit(found, firstHouse + found.level);
                 return true;
             });
+        };
+        const std::vector<int> houses = possibleHouses();
+        if (houses.size() > kFewHouses) {
+            visitAll({beyond, 30.0}, 1);
             return;
         }
-        const HouseMask mask = AspectMask(body_, context_.nodeAspectOption);
-        for (int house = 1; house <= 12; ++house) {
-            if (containsHouse(mask, house)) {
-                const double first = core::Normalize360((house - 1) * 30.0 + beyond);
-                forEachCrossing(curve, shape, search_.span, {first, 0.0},
-                                [&](const Crossing& found) {
-                                    visit(found, house);
-                                    return true;
-                                });
-            }
+        for (const int house : houses) {
+            visitAll({core::Normalize360((house - 1) * 30.0 + beyond), 0.0}, house);
         }
     }
 
@@ -142,6 +137,22 @@ private:
     [[nodiscard]] bool isNative() const
     {
         return context_.mode == TransitMode::Native;
+    }
+
+    // The house-distances that the aspect choice allows, wherever the two stand.
+    [[nodiscard]] std::vector<int> possibleHouses() const
+    {
+        const bool byGraha = context_.aspectChoice == kGrahaAspects ||
+                             context_.aspectChoice == kGrahaAspects4 ||
+                             context_.aspectChoice == kGrahaAspects5;
+        const HouseMask mask = AspectMask(body_, context_.nodeAspectOption);
+        std::vector<int> houses;
+        for (int house = 1; house <= 12; ++house) {
+            if (!byGraha || containsHouse(mask, house)) {
+                houses.push_back(house);
+            }
+        }
+        return houses;
     }
 
     [[nodiscard]] double targetLongitude(double day) const
