@@ -332,7 +332,7 @@ private:
         const double width = measured(frame_.options, text);
         const bool grid = frame_.options.characterGrid;
         const double size =
-            grid ? frame_.font : std::min({0.9 * frame_.font, 0.62 * radius, 1.3 * radius / width});
+            grid ? frame_.font : std::min({0.9 * frame_.font, 0.5 * radius, 1.1 * radius / width});
         const Spot where{middle_.x, middle_.y + (grid ? shift * 4.0 : 1.4 * shift * radius)};
         return boxAround(where, width * size, size, grid);
     }

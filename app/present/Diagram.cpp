@@ -19,7 +19,7 @@ namespace
 {
 
 // Shares of the side of a diagram.
-constexpr double kFontShare = 0.038;
+constexpr double kFontShare = 0.036;
 constexpr double kCircleFontShare = 0.036;
 constexpr double kDoubleFontShare = 0.028;
 constexpr double kStrokeShare = 0.0028;

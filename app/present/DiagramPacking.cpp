@@ -14,7 +14,11 @@ namespace
 constexpr std::array<double, 7> kScales = {1.0, 0.95, 0.9, 0.85, 0.8, 0.75, kLeastScale};
 constexpr int kMostColumns = 6;
 constexpr double kLineSpacing = 1.1;
+constexpr double kTightSpacing = 1.0;     // in several columns
 constexpr double kGapBetweenLabels = 0.5; // em
+
+// The distance of candidate positions, in lines.
+constexpr double kShiftStep = 0.25;
 
 // Below this share of its size a text is no longer drawn.
 constexpr double kVanishing = 1e-3;
@@ -95,13 +99,14 @@ private:
     bool place(std::span<const double> widths, int columns, double scale)
     {
         const double size = scale * task_.size;
-        const double line = task_.characterGrid ? size : size * kLineSpacing;
+        const double spacing = columns == 1 ? kLineSpacing : kTightSpacing;
+        const double line = task_.characterGrid ? size : size * spacing;
         const int lines = (int(widths.size()) + columns - 1) / columns;
         const double height = (lines - 1) * line + size;
         if (height > task_.area.bottom() - task_.area.top()) {
             return false;
         }
-        const double step = task_.characterGrid ? line : line * (columns == 1 ? 0.25 : 0.5);
+        const double step = task_.characterGrid ? line : line * kShiftStep;
         const double first = task_.focus.y - height / 2.0;
         const double room = task_.area.bottom() - task_.area.top();
         for (int i = 0; i * step < room; ++i) {
