@@ -1,11 +1,19 @@
 #include "app/cli/Commands.h"
 
 #include "app/cli/AnalysisCommands.h"
+#include "app/cli/AtlasCommands.h"
 #include "app/cli/AyanamsaCommands.h"
 #include "app/cli/ChartCommands.h"
 #include "app/cli/DashaCommand.h"
+#include "app/cli/DatabaseEditCommands.h"
+#include "app/cli/DatabaseExchangeCommands.h"
+#include "app/cli/DatabaseListCommands.h"
+#include "app/cli/DatabaseWalkCommands.h"
+#include "app/cli/EclipseCommand.h"
+#include "app/cli/EphemerisCommand.h"
 #include "app/cli/MatchCommand.h"
 #include "app/cli/PanchangaCommand.h"
+#include "app/cli/ReportCommand.h"
 #include "app/cli/SettingsCommands.h"
 #include "app/cli/TransitCommand.h"
 
@@ -29,6 +37,28 @@ std::span<const Command* const> allCommands()
     static const DashaCommand dasha;
     static const PanchangaCommand panchanga;
     static const TransitsCommand transits;
+    static const ListChartsCommand listCharts;
+    static const SortChartsCommand sortCharts;
+    static const ShowChartCommand showChart;
+    static const NewDatabaseCommand newDatabase;
+    static const AddChartCommand addChart;
+    static const UpdateChartCommand updateChart;
+    static const DeleteChartCommand deleteChart;
+    static const GroupChartsCommand groupCharts;
+    static const OrderDatesCommand orderDates;
+    static const CheckDatabaseCommand checkDatabase;
+    static const RefreshResearchCommand refreshResearch;
+    static const MergeDatabaseCommand mergeDatabase;
+    static const ImportChartsCommand importCharts;
+    static const ExportChartsCommand exportCharts;
+    static const BackUpDatabaseCommand backUpDatabase;
+    static const RestoreDatabaseCommand restoreDatabase;
+    static const FindPlacesCommand findPlaces;
+    static const PlaceZoneCommand placeZone;
+    static const EphemerisCommand ephemeris;
+    static const EclipsesCommand eclipses;
+    static const TableCommand table;
+    static const ReportCommand report;
     static const ListSettingsCommand listSettings;
     static const GetSettingCommand getSetting;
     static const SetSettingCommand setSetting;
@@ -37,26 +67,17 @@ std::span<const Command* const> allCommands()
     static const SetAyanamsaCommand setAyanamsa;
     static const ResetAyanamsasCommand resetAyanamsas;
     static const auto kAll = std::to_array<const Command*>({
-        &chart,
-        &positions,
-        &houses,
-        &sun,
-        &vargas,
-        &dignities,
-        &strengths,
-        &ashtakavarga,
-        &points,
-        &match,
-        &dasha,
-        &panchanga,
-        &transits,
-        &listSettings,
-        &getSetting,
-        &setSetting,
-        &resetSettings,
-        &listAyanamsas,
-        &setAyanamsa,
-        &resetAyanamsas,
+        &chart,           &positions,      &houses,        &sun,
+        &vargas,          &dignities,      &strengths,     &ashtakavarga,
+        &points,          &match,          &dasha,         &panchanga,
+        &transits,        &listCharts,     &sortCharts,    &showChart,
+        &newDatabase,     &addChart,       &updateChart,   &deleteChart,
+        &groupCharts,     &orderDates,     &checkDatabase, &refreshResearch,
+        &mergeDatabase,   &importCharts,   &exportCharts,  &backUpDatabase,
+        &restoreDatabase, &findPlaces,     &placeZone,     &ephemeris,
+        &eclipses,        &table,          &report,        &listSettings,
+        &getSetting,      &setSetting,     &resetSettings, &listAyanamsas,
+        &setAyanamsa,     &resetAyanamsas,
     });
     return kAll;
 }
@@ -64,6 +85,8 @@ std::span<const Command* const> allCommands()
 std::span<const GroupInfo> commandGroups()
 {
     static constexpr auto kGroups = std::to_array<GroupInfo>({
+        {"db", "Keep charts in databases"},
+        {"atlas", "Look places and their time zones up"},
         {"settings", "Show and change the stored settings"},
         {"settings ayanamsa", "Show and change the table of ayanamsas"},
     });
