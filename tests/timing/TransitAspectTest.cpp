@@ -43,6 +43,8 @@ TEST(Interpolator, findsTheRootOfAnyParabolaAcrossTheWrap)
     }
     // The tithi of a paksha: 14.6, 0.1, 0.6 modulo 15.
     EXPECT_NEAR(solved(15.0, {14.6, 0.1, 0.6}), 9.6, 1e-12);
+    // What leaves half the modulus behind goes on from there and does not jump back.
+    EXPECT_NEAR(solved(15.0, {6.0, 8.0, 10.0}), -36.0, 1e-12);
     // Any three points, in any distance.
     Interpolator curve;
     curve.add(-3.0, 16.0);
@@ -172,6 +174,8 @@ TEST_F(TransitDay, closenessAtTheBeginningOfTheDay)
     move(core::kMoon, 356.0, 14.5); // 14 degrees short
     EXPECT_EQ(test(kTarget, core::kMoon), 1);
     EXPECT_NEAR(context.hour, 14.0 / 14.5 * 24.0, 1e-6);
+    move(core::kMoon, 355.0, 15.2); // 15 degrees are still close
+    EXPECT_EQ(test(kTarget, core::kMoon), 1);
     move(core::kMoon, 354.0, 17.0); // 16 degrees short
     EXPECT_EQ(test(kTarget, core::kMoon), 0);
     move(core::kMercury, 7.0, 4.0); // 3 degrees short
