@@ -76,8 +76,10 @@ public:
             }
             last = index(column, row);
             cells_[last] = character;
+            joints_[last] = 0;
             if (width == 2) {
                 cells_[last + 1] = kContinued;
+                joints_[last + 1] = 0;
             }
             column += width;
         }
