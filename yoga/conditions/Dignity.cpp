@@ -27,8 +27,8 @@ std::wstring wordOf(PlainWord word)
 }
 
 // The dignity of a place under a test of its rank.
-template <typename Holds>
-bool dignityWhich(Evaluation& e, Holds holds, const std::wstring& wanted)
+template <typename Holds, typename Wanted>
+bool dignityWhich(Evaluation& e, Holds holds, Wanted wanted)
 {
     return e.each(0, [&](const Place& place) {
         const std::optional<PlainWord> found = place.frame->dignity(place.planet(), e.varga());
@@ -38,7 +38,7 @@ bool dignityWhich(Evaluation& e, Holds holds, const std::wstring& wanted)
                 return found ? text(e.name(place, 0), L" is ", wordOf(*found))
                              : e.name(place, 0) + L" has no dignity";
             },
-            [&] { return wanted; });
+            wanted);
     });
 }
 
@@ -121,21 +121,23 @@ bool dignity(Evaluation& e)
     const bool own = e.listed(kWordOwn);
     return dignityWhich(
         e, [&](PlainWord found) { return e.listed(found) || (own && found == kWordMoolatrikona); },
-        plainListWords(e.list()));
+        [&] { return plainListWords(e.list()); });
 }
 
 bool dignityMin(Evaluation& e)
 {
     const PlainWord least = e.word(1, kWordDebilitated);
     return dignityWhich(
-        e, [&](PlainWord found) { return found >= least; }, wordOf(least) + L" or better");
+        e, [&](PlainWord found) { return found >= least; },
+        [&] { return wordOf(least) + L" or better"; });
 }
 
 bool dignityMax(Evaluation& e)
 {
     const PlainWord most = e.word(1, kWordExalted);
     return dignityWhich(
-        e, [&](PlainWord found) { return found <= most; }, wordOf(most) + L" or worse");
+        e, [&](PlainWord found) { return found <= most; },
+        [&] { return wordOf(most) + L" or worse"; });
 }
 
 bool regards(Evaluation& e)

@@ -55,7 +55,7 @@ void Frame::forget()
     positionsRead_ = false;
     arudhasReady_ = false;
     relationsReady_ = false;
-    vargasReady_ = 0;
+    divided_.fill(0);
     benefics_.reset();
     natures_.reset();
     karakas_.reset();
@@ -124,7 +124,7 @@ bool Frame::setLine(std::string_view line)
 // The strengths stay: none of them reads what the options change.
 void Frame::setOption(int option)
 {
-    vargasReady_ = 0;
+    divided_.fill(0);
     ashtakavarga_.reset();
     if (source_ != Source::Chart) {
         return;
@@ -160,7 +160,6 @@ void Frame::prepareArudhas()
     }
     readPositions();
     arudhasReady_ = true;
-    vargasReady_ = 0;
     analysis::computeArudhaPoints(*own_, settings_);
     for (int point = core::kArudhaPada1; point <= core::kUpapada; ++point) {
         at(rashi_, point) = analysis::signInVarga(*own_, core::kRashi, point);
@@ -168,27 +167,48 @@ void Frame::prepareArudhas()
     rashi_[core::kArudhaLagna] = analysis::signInVarga(*own_, core::kRashi, core::kArudhaLagna);
 }
 
-void Frame::prepareVarga(int varga)
+// Of a research line only the points are divided that are asked for.
+void Frame::prepareVarga(int varga, int point)
 {
     readPositions();
-    if (source_ != Source::Line || (vargasReady_ & bit(varga)) != 0) {
+    std::uint64_t& ready = at(divided_, varga);
+    if (source_ != Source::Line || (ready & (std::uint64_t{1} << unsigned(point))) != 0) {
         return;
     }
-    vargasReady_ |= bit(varga);
-    const auto place = [&](int point) {
-        if (own_->computed(point)) {
-            analysis::computeVarga(*own_, varga, point, settings_);
-        }
-    };
-    std::for_each(data::kResearchPoints.begin(), data::kResearchPoints.end(), place);
-    if (arudhasReady_) {
-        place(core::kArudhaLagna);
-        for (int point = core::kArudhaPada1; point <= core::kUpapada; ++point) {
-            place(point);
-        }
-        if (settings_.arudhasInVargas) {
-            analysis::storeArudhaSigns(*own_, varga, settings_);
-        }
+    ready |= std::uint64_t{1} << unsigned(point);
+    if (own_->computed(point)) {
+        analysis::computeVarga(*own_, varga, point, settings_);
+    }
+}
+
+void Frame::prepareVarga(int varga)
+{
+    if (source_ != Source::Line) {
+        return;
+    }
+    for (const int point : data::kResearchPoints) {
+        prepareVarga(varga, point);
+    }
+}
+
+// The arudhas of a divisional chart follow from the places of all planets in it.
+void Frame::prepareArudhas(int varga)
+{
+    if (source_ != Source::Line) {
+        return;
+    }
+    prepareArudhas();
+    const std::uint64_t arudhaLagna = std::uint64_t{1} << unsigned(core::kArudhaLagna);
+    if (varga == core::kRashi || (at(divided_, varga) & arudhaLagna) != 0) {
+        return;
+    }
+    prepareVarga(varga);
+    prepareVarga(varga, core::kArudhaLagna);
+    for (int point = core::kArudhaPada1; point <= core::kUpapada; ++point) {
+        prepareVarga(varga, point);
+    }
+    if (settings_.arudhasInVargas) {
+        analysis::storeArudhaSigns(*own_, varga, settings_);
     }
 }
 
@@ -200,7 +220,6 @@ void Frame::prepareRelations()
     }
     relationsReady_ = true;
     analysis::computeCompoundRelationships(*own_, settings_);
-    analysis::computeCombustion(*own_, settings_);
 }
 
 const core::Chart& Frame::chart(int varga)
@@ -218,12 +237,12 @@ int Frame::sign(int point, int varga)
         return 0;
     }
     if (isArudha(point)) {
-        prepareArudhas();
+        prepareArudhas(varga);
     }
     if (varga == core::kRashi) {
         return at(rashi_, point);
     }
-    prepareVarga(varga);
+    prepareVarga(varga, point);
     return analysis::signInVarga(*current_, varga, point);
 }
 
@@ -251,12 +270,21 @@ double Frame::nakshatraPosition(int point)
     return longitude(point, core::kRashi) < 0.0 ? -1.0 : at(current_->nakshatraPosition, point);
 }
 
+// Exaltation, debilitation and own signs are decided without the relationship to the lord.
+bool Frame::relationMatters(int point, int sign) const
+{
+    const int scheme = settings_.nodeDignityScheme;
+    return sign != analysis::exaltationSign(point, scheme) &&
+           sign != analysis::debilitationSign(point, scheme) && analysis::signLord(sign) != point;
+}
+
 std::optional<PlainWord> Frame::dignity(int point, int varga)
 {
     const int place = point >= core::kSun && point <= core::kKetu ? sign(point, varga) : 0;
     if (place == 0) {
         return std::nullopt;
     }
+    readPositions();
     const int shown = analysis::displayDignity(chart(varga), point, place, varga, settings_);
     // Outside the rashi nothing tells moolatrikona from an own sign; the code above that of the own
     // sign means exalted.
@@ -272,7 +300,10 @@ bool Frame::retrograde(int point)
 
 bool Frame::combust(int planet)
 {
-    return exists() && at(chart().combust, planet);
+    readPositions();
+    return exists() &&
+           (source_ == Source::Line ? analysis::isCombust(*own_, *own_, planet, settings_)
+                                    : at(current_->combust, planet));
 }
 
 const analysis::NaturalBenefics& Frame::benefics()

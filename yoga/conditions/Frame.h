@@ -76,8 +76,8 @@ public:
     /// The planets 1 to 9 of a set, bit n for planet n.
     [[nodiscard]] std::uint32_t members(const SetWord& word, int varga);
 
-    /// The chart with the positions of all points that the source has, its relationships and
-    /// combustions, and the placements of one divisional chart.
+    /// The chart with the positions of all points that the source has, its relationships and the
+    /// placements of one divisional chart. Of a research line it has no combustions.
     [[nodiscard]] const core::Chart& chart(int varga = core::kRashi);
 
     /// Whether the source is a whole chart.
@@ -100,9 +100,12 @@ private:
 
     void forget();
     void readPositions();
+    void prepareVarga(int varga, int point);
     void prepareVarga(int varga);
     void prepareArudhas();
+    void prepareArudhas(int varga);
     void prepareRelations();
+    [[nodiscard]] bool relationMatters(int point, int sign) const;
     [[nodiscard]] std::uint32_t dynamicMembers(PlanetSet set, int varga);
     [[nodiscard]] std::uint32_t lordsOfHouses(std::uint32_t houses, int varga);
     [[nodiscard]] std::uint32_t cluster(int varga);
@@ -119,7 +122,7 @@ private:
     bool positionsRead_ = false;
     bool arudhasReady_ = false;
     bool relationsReady_ = false;
-    std::uint32_t vargasReady_ = 0;
+    core::VargaArray<std::uint64_t> divided_ = {}; ///< points of a line with placements, bit n
     std::optional<analysis::NaturalBenefics> benefics_;
     std::optional<analysis::NatureTable> natures_;
     std::optional<std::array<int, 8>> karakas_;

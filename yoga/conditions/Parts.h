@@ -17,10 +17,10 @@ using explaining::ordinal;
 using explaining::signText;
 using explaining::text;
 
-/// The house, 1 to 12, of a sign counted from another one.
-[[nodiscard]] inline int houseFrom(int sign, int reference)
+/// The house, 1 to 12, of a sign 1 to 12 counted from another one.
+[[nodiscard]] constexpr int houseFrom(int sign, int reference)
 {
-    return core::norm12(sign - reference + 1);
+    return sign - reference + (sign < reference ? 13 : 1);
 }
 
 /// The way from one longitude to another in the order of the zodiac, 0 to under 360.

@@ -116,7 +116,10 @@ Place stepFrom(const Place& from, int step, int varga, Frame& native, Frame& sec
 int Place::sign(int varga) const
 {
     const int own = point < 0 ? 0 : frame->sign(point, varga);
-    return own == 0 ? 0 : norm12(own + shift);
+    if (own == 0) {
+        return 0;
+    }
+    return own + shift > 12 ? own + shift - 12 : own + shift;
 }
 
 double Place::longitude(int varga) const
