@@ -77,7 +77,7 @@ int julianLag(const core::CivilDate& date)
 Result<core::CivilDate> readDate(std::string_view text, std::wstring& notes)
 {
     std::string_view rest = text;
-    const Result<core::CivilDate> date = core::parseDate(takePart(rest, " "));
+    Result<core::CivilDate> date = core::parseDate(takePart(rest, " "));
     if (!date || rest.empty()) {
         return date;
     }
@@ -170,10 +170,10 @@ Result<void> readHead(std::string_view line, core::Chart& chart, std::wstring& r
     if (parts.back().empty() || !line.empty()) {
         return Error{"a chart has eight parts"};
     }
-    if (const Result<void> texts = readTexts(parts, chart); !texts) {
+    if (Result<void> texts = readTexts(parts, chart); !texts) {
         return texts;
     }
-    if (const Result<void> moment = readMoment(parts[2], parts[3], chart, remarks); !moment) {
+    if (Result<void> moment = readMoment(parts[2], parts[3], chart, remarks); !moment) {
         return moment;
     }
     std::string_view coordinates = parts[5];
