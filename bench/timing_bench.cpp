@@ -4,7 +4,11 @@
 #include "astro/Bodies.h"
 #include "astro/DataFile.h"
 #include "astro/PreciseMoon.h"
+#include "timing/EclipseAtPlace.h"
+#include "timing/Ephemeris.h"
+#include "timing/EphemerisEvents.h"
 #include "timing/EventSearch.h"
+#include "timing/MoonPhases.h"
 #include "timing/Panchanga.h"
 #include "timing/PanchangaReport.h"
 #include "timing/SadeSati.h"
@@ -162,11 +166,53 @@ void sadeSatiOfALife(benchmark::State& state)
     }
 }
 
+// The eclipses of a century with what a place sees of them.
+void eclipsesOfACentury(benchmark::State& state)
+{
+    std::size_t seen = 0;
+    for (auto _ : state) {
+        timing::SiderealSky sky(series(), core::Settings{});
+        seen = 0;
+        for (const timing::Eclipse& eclipse :
+             timing::eclipsesIn(sky, {kFirstDay, kFirstDay + kCentury})) {
+            seen += timing::eclipseAtPlace(sky, eclipse, kDelhi).visible ? 1U : 0U;
+        }
+    }
+    state.counters["seen"] = double(seen);
+}
+
+// A month of daily positions of all bodies with its phases, ingresses and stations, every month
+// from scratch.
+void monthOfEphemeris(benchmark::State& state)
+{
+    timing::EphemerisPlan plan;
+    plan.clockOffset = kDelhi.clockOffset;
+    plan.bodies.assign(core::kBodies.begin(), core::kBodies.end());
+    double first = kFirstDay;
+    for (auto _ : state) {
+        plan.first = timing::recordOfDay(first);
+        plan.last = timing::recordOfDay(first + 30.0);
+        timing::SiderealSky sky(series(), core::Settings{});
+        timing::EphemerisRows rows(sky, plan);
+        double sum = 0.0;
+        while (const auto row = rows.next()) {
+            sum += row->bodies.back().sky.longitude;
+        }
+        const timing::Span span = timing::spanOf(plan);
+        sum += double(timing::moonPhasesIn(sky, span).size());
+        sum += double(timing::ephemerisEventsIn(sky, plan.bodies, span).size());
+        benchmark::DoNotOptimize(sum);
+        first += 31.0;
+    }
+}
+
 BENCHMARK(plainCosineLoop);
 BENCHMARK(monthOfPanchanga);
 BENCHMARK(sunAndMoonFromSeries);
 BENCHMARK(sunAndMoonInterpolated);
 BENCHMARK(ingressesAndStationsOfACentury);
+BENCHMARK(eclipsesOfACentury);
+BENCHMARK(monthOfEphemeris);
 BENCHMARK(tenYearsOfTransits)->Args({10, 1})->Args({63, 1})->Args({63, 0});
 BENCHMARK(sadeSatiOfALife);
 
