@@ -9,6 +9,7 @@
 #include "app/cli/DatabaseExchangeCommands.h"
 #include "app/cli/DatabaseListCommands.h"
 #include "app/cli/DatabaseWalkCommands.h"
+#include "app/cli/DiagramCommand.h"
 #include "app/cli/EclipseCommand.h"
 #include "app/cli/EphemerisCommand.h"
 #include "app/cli/MatchCommand.h"
@@ -34,6 +35,7 @@ std::span<const Command* const> allCommands()
     static const AshtakavargaCommand ashtakavarga;
     static const PointsCommand points;
     static const MatchCommand match;
+    static const DiagramCommand diagram;
     static const DashaCommand dasha;
     static const PanchangaCommand panchanga;
     static const TransitsCommand transits;
@@ -67,17 +69,17 @@ std::span<const Command* const> allCommands()
     static const SetAyanamsaCommand setAyanamsa;
     static const ResetAyanamsasCommand resetAyanamsas;
     static const auto kAll = std::to_array<const Command*>({
-        &chart,           &positions,      &houses,        &sun,
-        &vargas,          &dignities,      &strengths,     &ashtakavarga,
-        &points,          &match,          &dasha,         &panchanga,
-        &transits,        &listCharts,     &sortCharts,    &showChart,
-        &newDatabase,     &addChart,       &updateChart,   &deleteChart,
-        &groupCharts,     &orderDates,     &checkDatabase, &refreshResearch,
-        &mergeDatabase,   &importCharts,   &exportCharts,  &backUpDatabase,
-        &restoreDatabase, &findPlaces,     &placeZone,     &ephemeris,
-        &eclipses,        &table,          &report,        &listSettings,
-        &getSetting,      &setSetting,     &resetSettings, &listAyanamsas,
-        &setAyanamsa,     &resetAyanamsas,
+        &chart,           &positions,       &houses,         &sun,
+        &vargas,          &dignities,       &strengths,      &ashtakavarga,
+        &points,          &match,           &diagram,        &dasha,
+        &panchanga,       &transits,        &listCharts,     &sortCharts,
+        &showChart,       &newDatabase,     &addChart,       &updateChart,
+        &deleteChart,     &groupCharts,     &orderDates,     &checkDatabase,
+        &refreshResearch, &mergeDatabase,   &importCharts,   &exportCharts,
+        &backUpDatabase,  &restoreDatabase, &findPlaces,     &placeZone,
+        &ephemeris,       &eclipses,        &table,          &report,
+        &listSettings,    &getSetting,      &setSetting,     &resetSettings,
+        &listAyanamsas,   &setAyanamsa,     &resetAyanamsas,
     });
     return kAll;
 }
