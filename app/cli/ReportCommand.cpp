@@ -1,0 +1,293 @@
+#include "app/cli/ReportCommand.h"
+
+#include "app/cli/ComputedChart.h"
+#include "app/cli/Console.h"
+#include "app/cli/ReportCommandOptions.h"
+#include "app/cli/SharedOptions.h"
+#include "app/cli/VargaOutput.h"
+#include "app/present/Report.h"
+#include "app/present/TableCatalogue.h"
+#include "app/present/TableWriters.h"
+#include "core/FileText.h"
+#include "core/Files.h"
+
+#include <nlohmann/json.hpp>
+
+#include <span>
+
+namespace kestrav::cli
+{
+
+namespace
+{
+
+constexpr int kMostLevels = 5;
+constexpr int kMostLines = 10000;
+
+using present::Document;
+
+ExitCode usageError(const core::Error& error, Console& console)
+{
+    console.error(error.text());
+    return ExitCode::Usage;
+}
+
+std::string formatted(const Document& document, WrittenForm form, const CommandInfo& info)
+{
+    switch (form) {
+    case WrittenForm::Text:
+        return core::toUtf8(present::documentText(document));
+    case WrittenForm::Csv:
+        return present::documentCsv(document);
+    case WrittenForm::Html:
+        return present::documentHtml(document);
+    case WrittenForm::Rtf:
+        return present::documentRtf(document);
+    case WrittenForm::Json:
+        break;
+    }
+    Json object = commandObject(info.name);
+    object["report"] = Json::parse(present::documentJson(document));
+    return jsonText(object);
+}
+
+ExitCode write(const std::string& bytes, const Arguments& arguments, Console& console)
+{
+    const std::optional<std::string> file = arguments.value("--output");
+    if (!file) {
+        console.print(bytes);
+        return ExitCode::Done;
+    }
+    const core::Result<void> written = core::writeFileSafely(
+        *file, std::span(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()));
+    if (!written) {
+        console.error(written.error().text());
+        return ExitCode::Failed;
+    }
+    return ExitCode::Done;
+}
+
+// A list of names and meanings in the form of the other tables.
+ExitCode printList(const Document& list, const Arguments& arguments, const CommandInfo& info,
+                   Console& console)
+{
+    const core::Result<WrittenForm> form = writtenForm(arguments);
+    return form ? write(formatted(list, form.value(), info), arguments, console)
+                : usageError(form.error(), console);
+}
+
+Document listOfTables()
+{
+    present::Table table = {"tables", L"", {{L"Table"}, {L"What it shows"}}};
+    for (const present::TableInfo& info : present::allTables()) {
+        table.add({core::fromFileBytes(info.id), info.meaning});
+    }
+    return {L"Tables", {}, {std::move(table)}};
+}
+
+Document listOfReports()
+{
+    present::Table reports = {"reports", L"", {{L"Report"}}};
+    for (const std::filesystem::path& path : deliveredReports()) {
+        reports.add({core::fromFileBytes(path.stem().string())});
+    }
+    present::Table sections = {"sections", L"", {{L"Section"}}};
+    for (int section = 0; section < present::kReportSections; ++section) {
+        sections.add({core::fromFileBytes(
+            present::reportSectionName(static_cast<present::ReportSection>(section)))});
+    }
+    return {L"Reports", {}, {std::move(reports), std::move(sections)}};
+}
+
+core::Result<present::TableSource>
+tableSource(const Arguments& arguments, const ComputedChart& computed, const astro::Series& series)
+{
+    const auto varga = chosenVarga(arguments);
+    const auto levels = integerOption(arguments, "--levels", 1, kMostLevels, 2);
+    const auto lines = integerOption(arguments, "--lines", 1, kMostLines, 0);
+    const auto letter = integerOption(arguments, "--name-letter", 1, 5, 0);
+    const auto moment = momentOption(arguments, computed.chart.zone);
+    if (!varga) {
+        return varga.error();
+    }
+    for (const auto* number : {&levels, &lines, &letter}) {
+        if (!*number) {
+            return number->error();
+        }
+    }
+    if (!moment) {
+        return moment.error();
+    }
+    present::TableSource source{computed, series};
+    source.varga = varga.value().value_or(core::kRashi);
+    source.levels = levels.value();
+    source.lines = lines.value();
+    source.nameLetter = letter.value();
+    source.moment = moment.value();
+    return source;
+}
+
+// The tables that were named, or the error.
+core::Result<std::vector<present::Block>> namedTables(const Arguments& arguments,
+                                                      const present::TableSource& source)
+{
+    std::vector<present::Block> blocks;
+    for (const std::string& name : arguments.values("TABLE")) {
+        const present::TableInfo* const info = present::findTable(name);
+        if (info == nullptr) {
+            return core::Error{"there is no table '" + name + "'; --list shows them"};
+        }
+        core::Result<present::Table> table = info->make(source);
+        if (!table) {
+            return core::Error{name + ": " + table.error().text()};
+        }
+        blocks.emplace_back(std::move(table.value()));
+    }
+    if (blocks.empty()) {
+        return core::Error{"name a table; --list shows them"};
+    }
+    return blocks;
+}
+
+// Tables alone, without the head of a report where a form has none.
+std::string formattedTables(const Document& document, WrittenForm form, const CommandInfo& info)
+{
+    if (form == WrittenForm::Text) {
+        std::wstring text;
+        for (const present::Block& block : document.blocks) {
+            text +=
+                (text.empty() ? L"" : L"\n") + present::tableText(std::get<present::Table>(block));
+        }
+        return core::toUtf8(text);
+    }
+    if (form == WrittenForm::Json) {
+        Json object = commandObject(info.name);
+        object["tables"] = Json::array();
+        for (const present::Block& block : document.blocks) {
+            object["tables"].push_back(
+                Json::parse(present::tableJson(std::get<present::Table>(block))));
+        }
+        return jsonText(object);
+    }
+    return formatted(document, form, info);
+}
+
+core::Result<yoga::YogaLibrary> yogaLibrary(const Arguments& arguments)
+{
+    yoga::YogaLibrary library;
+    if (!arguments.has("--yogas")) {
+        for (const std::filesystem::path& path : yoga::standardYogaFiles()) {
+            if (const core::Result<void> loaded = library.load(path); !loaded) {
+                return loaded.error();
+            }
+        }
+        return library;
+    }
+    for (const std::string& file : arguments.values("--yogas")) {
+        if (const core::Result<void> loaded = library.load(file); !loaded) {
+            return loaded.error();
+        }
+    }
+    return library;
+}
+
+} // namespace
+
+TableCommand::TableCommand()
+    : Command({"table",
+               "Write tables of a chart as text, comma-separated values, HTML, RTF or JSON",
+               {{"TABLE", "names of tables; --list shows them", false, true}},
+               {kBirthOptions, kPositionsOption, kTableOptions, kVargaOption, kFormatOptions,
+                kSetOptions, kCommonOptions}})
+{}
+
+ExitCode TableCommand::run(const Arguments& arguments, Console& console) const
+{
+    if (arguments.has("--list")) {
+        return printList(listOfTables(), arguments, info(), console);
+    }
+    const core::Result<WrittenForm> form = writtenForm(arguments);
+    if (!form) {
+        return usageError(form.error(), console);
+    }
+    const core::Result<BirthData> birth = readBirthData(arguments, PlaceNeed::Optional);
+    if (!birth) {
+        return usageError(birth.error(), console);
+    }
+    ExitCode code = ExitCode::Done;
+    const std::optional<CallData> call = openCall(arguments, console, code);
+    if (!call) {
+        return code;
+    }
+    const std::optional<ComputedChart> computed = computeChart(*call, birth.value(), console, code);
+    if (!computed) {
+        return code;
+    }
+    const core::Result<present::TableSource> source =
+        tableSource(arguments, *computed, call->data.series);
+    if (!source) {
+        return usageError(source.error(), console);
+    }
+    auto blocks = namedTables(arguments, source.value());
+    if (!blocks) {
+        return usageError(blocks.error(), console);
+    }
+    Document document;
+    document.title = computed->chart.name.empty() ? L"Chart" : computed->chart.name;
+    document.head = present::reportHead(*computed);
+    document.blocks = std::move(blocks.value());
+    return write(formattedTables(document, form.value(), info()), arguments, console);
+}
+
+ReportCommand::ReportCommand()
+    : Command({"report",
+               "Write a report of chosen sections as text, HTML, RTF or JSON, or its tables as "
+               "comma-separated values",
+               {},
+               {kBirthOptions, kPositionsOption, kReportOptions, kFormatOptions, kSetOptions,
+                kCommonOptions}})
+{}
+
+ExitCode ReportCommand::run(const Arguments& arguments, Console& console) const
+{
+    if (arguments.has("--list")) {
+        return printList(listOfReports(), arguments, info(), console);
+    }
+    const core::Result<WrittenForm> form = writtenForm(arguments);
+    const core::Result<present::DiagramStyle> style = styleOption(arguments);
+    const core::Result<present::ReportDefinition> definition = chosenReport(arguments);
+    const core::Result<BirthData> birth = readBirthData(arguments, PlaceNeed::Optional);
+    for (const core::Error* error :
+         {form ? nullptr : &form.error(), style ? nullptr : &style.error(),
+          definition ? nullptr : &definition.error(), birth ? nullptr : &birth.error()}) {
+        if (error != nullptr) {
+            return usageError(*error, console);
+        }
+    }
+    const core::Result<yoga::YogaLibrary> library = yogaLibrary(arguments);
+    if (!library) {
+        console.error(library.error().text());
+        return ExitCode::Failed;
+    }
+    ExitCode code = ExitCode::Done;
+    const std::optional<CallData> call = openCall(arguments, console, code);
+    if (!call) {
+        return code;
+    }
+    const std::optional<ComputedChart> computed = computeChart(*call, birth.value(), console, code);
+    if (!computed) {
+        return code;
+    }
+    const core::Result<double> moment = momentOption(arguments, computed->chart.zone);
+    if (!moment) {
+        return usageError(moment.error(), console);
+    }
+    const bool hasYogas = !library.value().files().empty();
+    const present::ReportSource source{*computed, call->data.series,
+                                       hasYogas ? &library.value() : nullptr, moment.value(),
+                                       style.value()};
+    return write(formatted(present::makeReport(source, definition.value()), form.value(), info()),
+                 arguments, console);
+}
+
+} // namespace kestrav::cli
