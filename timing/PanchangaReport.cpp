@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <cwchar>
 #include <string_view>
 #include <type_traits>
@@ -124,7 +125,8 @@ void appendSpan(std::wstring& report, const wchar_t* name, const std::optional<H
 void appendHeader(std::wstring& report, const PanchangaDay& day)
 {
     report += L"Panchanga\n";
-    print(report, L"%d-%02d-%02d %ls\n", int(day.date.year), int(day.date.month), int(day.date.day),
+    print(report, L"%ls%04d-%02d-%02d %ls\n", std::wstring(day.date.year < 0 ? L"-" : L""),
+          std::abs(int(day.date.year)), int(day.date.month), int(day.date.day),
           text(core::weekdayName(day.weekday)));
     print(report,
           L"HH:MM are Tithi/Karana%ls and Yoga ending times ('-' = previous day, '+' = next "

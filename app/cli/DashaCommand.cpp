@@ -106,8 +106,7 @@ core::Result<DashaResult> dashaResult(const ComputedChart& computed, const Argum
 
 DashaCommand::DashaCommand()
     : Command({"dasha",
-               "List the periods of a dasha, or those that run at a moment; the place may be left "
-               "out where the dasha needs none",
+               "List the periods of a dasha, or those that run at a moment",
                {},
                {kBirthOptions, kPositionsOption, kDashaOptions, kSetOptions, kCommonOptions}})
 {}

@@ -171,7 +171,7 @@ PanchangaCommand::PanchangaCommand()
     : Command({"panchanga",
                "Make the panchanga of a day, a month or a span of days at a place",
                {},
-               {kBirthOptions, kPanchangaOptions, kNativeOptions, kSetOptions, kCommonOptions}})
+               {kDayOptions, kPanchangaOptions, kNativeOptions, kSetOptions, kCommonOptions}})
 {}
 
 ExitCode PanchangaCommand::run(const Arguments& arguments, Console& console) const

@@ -4,6 +4,7 @@
 #include "app/cli/Arguments.h"
 #include "app/cli/BirthData.h"
 #include "app/cli/Command.h"
+#include "app/cli/SharedOptions.h"
 #include "core/NumberText.h"
 #include "core/Result.h"
 
@@ -12,6 +13,21 @@
 
 namespace kestrav::cli
 {
+
+/// The options of a chart with the meaning that they have for a day.
+inline constexpr auto kDayOptions = [] {
+    auto options = kBirthOptions;
+    for (OptionInfo& option : options) {
+        if (option.name == "--date") {
+            option.meaning = "the day, in historical years; -0044-03-15 is in 44 BC";
+        } else if (option.name == "--time") {
+            option.meaning = "clock time of a moment; then it is the day that runs at it";
+        } else if (option.name == "--name") {
+            option.meaning = "name of the chart in the database";
+        }
+    }
+    return options;
+}();
 
 inline constexpr std::array<OptionInfo, 3> kPanchangaOptions = {{
     {"--from", "YYYY-MM-DD", "first day of a span, instead of --date"},

@@ -476,6 +476,10 @@ TEST_F(PanchangaOfDays, reportLinesInEnglish)
         EXPECT_EQ(lines[i], wanted[i]);
     }
     EXPECT_NE(std::find(lines.begin(), lines.end(), L"\t07:14  Moo\t17:52  Ven"), lines.end());
+    // The date is written as it is typed, in 44 BC too.
+    std::wstring header;
+    appendHeader(header, day(-44, 3, 15));
+    EXPECT_EQ(linesOf(header)[1], L"-0044-03-15 Wednesday");
 }
 
 TEST_F(PanchangaOfDays, reportLinesInSanskrit)
