@@ -15,6 +15,7 @@
 #include "app/present/SpecialPointTables.h"
 #include "app/present/StrengthTables.h"
 #include "app/present/VargaTables.h"
+#include "app/present/VargaWindowTable.h"
 #include "core/NumberText.h"
 
 #include <nlohmann/json.hpp>
@@ -24,6 +25,10 @@ namespace kestrav::cli
 
 namespace
 {
+
+constexpr std::array<OptionInfo, 1> kWindowsOption = {{
+    {"--windows", "", "add from when to when the ascendants of the divisional charts hold"},
+}};
 
 constexpr std::array<OptionInfo, 1> kReductionsOption = {{
     {"--reductions", "", "add the trikona and ekadhipatya reductions and the pindas"},
@@ -63,6 +68,42 @@ core::Result<int> nameLetter(const Arguments& arguments)
     return *group;
 }
 
+// Whether the chart has an ascendant that moves: bare positions and charts without a place have
+// not.
+bool hasWindows(const ComputedChart& computed)
+{
+    return computed.hasPlace && computed.chart.hasMoment;
+}
+
+Json windowsJson(const ComputedChart& computed, std::optional<int> varga)
+{
+    Json list = Json::array();
+    for (const timing::VargaWindow& window :
+         timing::vargaWindows(computed.chart, computed.settings)) {
+        if (varga && window.varga != *varga) {
+            continue;
+        }
+        Json object;
+        object["varga"] = window.varga;
+        object["sign"] = window.sign;
+        object["begin"] = numberJson(window.begin);
+        object["end"] = numberJson(window.end);
+        list.push_back(std::move(object));
+    }
+    return list;
+}
+
+present::Table windowsTable(const ComputedChart& computed, std::optional<int> varga)
+{
+    if (hasWindows(computed)) {
+        return present::vargaWindowTable(
+            computed, timing::vargaWindows(computed.chart, computed.settings), varga);
+    }
+    present::Table table;
+    table.notes.emplace_back(L"The windows of the ascendants need a moment and a place.");
+    return table;
+}
+
 analysis::Ashtakavarga ashtakavargaOf(const ComputedChart& computed, const Arguments& arguments)
 {
     const int varga = chosenVarga(arguments).value().value_or(core::kRashi);
@@ -72,8 +113,8 @@ analysis::Ashtakavarga ashtakavargaOf(const ComputedChart& computed, const Argum
 } // namespace
 
 VargasCommand::VargasCommand()
-    : ComputingCommand(
-          infoOf("vargas", "Compute the divisional charts and the vimshopaka", {kVargaOption}))
+    : ComputingCommand(infoOf("vargas", "Compute the divisional charts and the vimshopaka",
+                              {kVargaOption, kWindowsOption}))
 {}
 
 core::Result<void> VargasCommand::check(const Arguments& arguments) const
@@ -84,18 +125,28 @@ core::Result<void> VargasCommand::check(const Arguments& arguments) const
 void VargasCommand::addJson(Json& object, const ComputedChart& computed,
                             const Arguments& arguments) const
 {
-    object["vargas"] = vargasJson(computed, chosenVarga(arguments).value());
+    const std::optional<int> varga = chosenVarga(arguments).value();
+    object["vargas"] = vargasJson(computed, varga);
     object["vimshopaka"] = vimshopakaJson(computed);
+    const bool windows = arguments.has("--windows") && hasWindows(computed);
+    object["windows"] = windows ? windowsJson(computed, varga) : Json();
 }
 
 std::wstring VargasCommand::text(const ComputedChart& computed, const Arguments& arguments) const
 {
-    if (const std::optional<int> varga = chosenVarga(arguments).value()) {
-        return tablesText({present::birthTable(computed), present::vargaTable(computed, *varga)});
+    const std::optional<int> varga = chosenVarga(arguments).value();
+    std::vector<present::Table> tables = {present::birthTable(computed)};
+    if (varga) {
+        tables.push_back(present::vargaTable(computed, *varga));
+    } else {
+        tables.push_back(present::vargaSignsTable(computed, present::placedPoints(computed)));
+        tables.push_back(present::vargaListTable());
+        tables.push_back(present::vimshopakaTable(computed));
     }
-    return tablesText({present::birthTable(computed),
-                       present::vargaSignsTable(computed, present::placedPoints(computed)),
-                       present::vargaListTable(), present::vimshopakaTable(computed)});
+    if (arguments.has("--windows")) {
+        tables.push_back(windowsTable(computed, varga));
+    }
+    return tablesText(tables);
 }
 
 DignitiesCommand::DignitiesCommand()

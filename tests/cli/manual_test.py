@@ -39,7 +39,7 @@ class Manual(ProgramTest):
         self.assertIn("--rate NUMBER", self.options["settings ayanamsa set"])
         self.assertEqual(self.options["houses"], self.options["sun"])
         self.assertEqual(self.options["vargas"].keys() - self.options["chart"].keys(),
-                         {"--varga NAME|INDEX"})
+                         {"--varga NAME|INDEX", "--windows"})
         group = unwrapped(self.text("settings", "-h").split("Commands:\n")[1].split("\n\n")[0])
         self.assertEqual(group, {name: meaning for name, meaning in self.commands.items()
                                  if name.startswith("settings ")})

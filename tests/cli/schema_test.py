@@ -90,6 +90,18 @@ class Schema(ProgramTest):
         self.check("panchanga", "--month", "1996-06", *POLAR[4:])
         self.check("panchanga", "--month", "-0044-03", *IDES[4:])
 
+    def test_ephemeris_and_eclipses(self):
+        dates = ["--from", "2024-03-01", "--to", "2024-04-30"]
+        self.check("ephemeris", *dates, "--step", "12h")
+        self.check("ephemeris", *dates, "--no-rows", "--zodiac", "tropical")
+        self.check("ephemeris", "--from", "-0044-03-15", "--no-events")
+        place = EXAMPLE[6:]
+        second = ["--with" + word[1:] if word.startswith("--") else word for word in EXAMPLE]
+        for words in ([], place, place + ["--visible"], second):
+            self.check("eclipses", "--from", "2015-01-01", "--to", "2025-12-31", *words)
+        self.check("vargas", *EXAMPLE, "--windows", "--varga", "D9")
+        self.check("vargas", *TROMSO_IN_JUNE, "--windows")
+
     def test_settings(self):
         for command in ("settings list", "settings reset", "settings ayanamsa list",
                         "settings ayanamsa reset"):
