@@ -6,6 +6,7 @@
 #include "analysis/ComputeChart.h"
 #include "analysis/SignPositions.h"
 #include "core/Chart.h"
+#include "core/NumberText.h"
 #include "core/Settings.h"
 #include "tests/astro/SeriesForTests.h"
 #include "yoga/ParseCondition.h"
@@ -40,7 +41,7 @@ inline core::Chart chartOf(const std::string& text, const core::Settings& settin
         const std::size_t colon = place.find(':');
         const int sign = std::stoi(place);
         const double degree =
-            colon == std::string::npos ? 15.0 : std::stod(place.substr(colon + 1));
+            colon == std::string::npos ? 15.0 : core::readLeadingNumber(place.substr(colon + 1));
         core::at(chart.longitude, point) = (30.0 * (sign - 1) + degree) / divisor;
         analysis::computeSignData(chart, point);
         if (place.back() == 'R') {
