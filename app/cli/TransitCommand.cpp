@@ -86,10 +86,10 @@ std::optional<TransitResult> computeTransits(const TransitRequest& request, cons
     }
     const timing::Span span{request.days.first - clock / 24.0,
                             request.days.last + 1.0 - clock / 24.0};
-    if (request.kakshyas) {
+    if (chart != nullptr && request.kakshyas) {
         result.kakshyas = timing::transitKakshyas(sky, *chart, request.options.bodies, span);
     }
-    if (request.sadeSati) {
+    if (chart != nullptr && request.sadeSati) {
         result.sadeSati = timing::sadeSati(sky, chart->rashi[core::kMoon], span);
     }
     return result;
@@ -137,7 +137,10 @@ ExitCode TransitsCommand::run(const Arguments& arguments, Console& console) cons
         }
     }
     const core::Result<double> clock = clockOf(request, arguments, native);
-    core::Result<void> settled = clock ? settleTransitDays(request, clock.value()) : clock.error();
+    if (!clock) {
+        return usageError(clock.error());
+    }
+    core::Result<void> settled = settleTransitDays(request, clock.value());
     if (settled && request.options.mode == timing::TransitMode::Native) {
         settled = settleTransitTargets(request, native->chart);
     }
