@@ -219,7 +219,7 @@ ExitCode PanchangaCommand::run(const Arguments& arguments, Console& console) con
         return ExitCode::Done;
     }
     const bool twelveHour = call->settings.twelveHourClock;
-    console.print(panchangaPlaceText(place->chart) + L"\n" +
+    console.print(panchangaPlaceText(place->chart, *made) + L"\n" +
                   (days.value().isSpan ? panchangaTableText(*made, twelveHour)
                                        : panchangaDayText(made->front(), twelveHour)));
     return ExitCode::Done;

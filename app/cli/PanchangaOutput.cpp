@@ -298,7 +298,8 @@ private:
 
 } // namespace
 
-std::wstring panchangaPlaceText(const ComputedChart& computed)
+std::wstring panchangaPlaceText(const ComputedChart& computed,
+                                const std::vector<PanchangaDay>& days)
 {
     core::Chart chart = computed.chart;
     core::FormatRecordHours(chart);
@@ -313,6 +314,17 @@ std::wstring panchangaPlaceText(const ComputedChart& computed)
                                   geoText(chart.geoLatitude, L'N', L'S'));
     lines.add(L"Zone", (chart.zone < 0.0 ? L"" : L"+") + chart.zoneText + L", saving time " +
                            std::to_wstring(chart.daylightSaving) + L" h");
+    std::wstring changes;
+    for (std::size_t i = 1; i < days.size(); ++i) {
+        const double step = days[i].clockOffset - days[i - 1].clockOffset;
+        if (step != 0.0) {
+            changes += (changes.empty() ? L"" : L", ") + dateText(days[i].date) +
+                       (step > 0.0 ? L" forward" : L" back");
+        }
+    }
+    if (!changes.empty()) {
+        lines.add(L"Clock set", changes);
+    }
     return lines.text();
 }
 

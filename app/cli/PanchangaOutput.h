@@ -11,8 +11,9 @@
 namespace kestrav::cli
 {
 
-/// Place, coordinates and zone of the days.
-[[nodiscard]] std::wstring panchangaPlaceText(const ComputedChart& computed);
+/// Place, coordinates and zone of the days, with the dates on which the clock changes.
+[[nodiscard]] std::wstring panchangaPlaceText(const ComputedChart& computed,
+                                              const std::vector<timing::PanchangaDay>& days);
 
 /// The report of one day: its lines, and the parts of day and night in tables.
 [[nodiscard]] std::wstring panchangaDayText(const timing::PanchangaDay& day, bool twelveHour);

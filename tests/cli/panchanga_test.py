@@ -130,8 +130,10 @@ class Spans(ProgramTest):
         self.assertRegex(text, r"2023-08-17  Thu .* Prathama .* Shravana\n")
 
     def test_saving_time_of_the_place(self):
-        days = self.json("panchanga", "--from", "2024-03-30", "--to", "2024-04-01", "--place",
-                         "Berlin, Germany")["days"]
+        words = ["panchanga", "--from", "2024-03-30", "--to", "2024-04-01", "--place",
+                 "Berlin, Germany"]
+        self.assertRegex(self.text(*words), r"\nClock set +2024-03-31 forward\n")
+        days = self.json(*words)["days"]
         rises = [day["sunrise"] for day in days]
         self.assertAlmostEqual(rises[1] - rises[0], 1 - 2.3 / 60, delta=0.01)
         self.assertAlmostEqual(rises[2] - rises[1], -2.3 / 60, delta=0.01)
