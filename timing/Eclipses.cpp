@@ -173,6 +173,9 @@ bool forEachEclipse(SiderealSky& sky, Span span, const EclipseFilter& filter,
                     FunctionRef<bool(const Eclipse&)> visit)
 {
     constexpr double kMargin = 3.0; // lunations
+    if (!std::isfinite(span.from) || !std::isfinite(span.to)) {
+        return true;
+    }
     const double last = lunationNear(span.to) + kMargin;
     for (double k = lunationNear(span.from) - kMargin; k <= last; k += 0.5) {
         std::optional<Eclipse> eclipse = eclipseAt(sky, k);
