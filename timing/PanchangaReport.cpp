@@ -253,7 +253,8 @@ void appendMoonStrength(std::wstring& report, const PanchangaDay& day)
         print(report, L"Tara bala: %ls\n", text(taraBalaText(day.taraBala->score)));
     }
     if (day.chandraBala) {
-        print(report, L"Chandra bala: %+d\n", *day.chandraBala);
+        print(report, *day.chandraBala == 0 ? L"Chandra bala: %d\n" : L"Chandra bala: %+d\n",
+              *day.chandraBala);
     }
 }
 

@@ -105,6 +105,24 @@ Result<PanchangaDays> spanDays(Arguments& arguments)
     return days;
 }
 
+Result<PanchangaDays> singleDay(const Arguments& arguments)
+{
+    PanchangaDays days;
+    if (!arguments.has("--date") && !arguments.has("--now") && !arguments.has("--db")) {
+        return Error{"--date is missing (or give --month, --from and --to, or --now)"};
+    }
+    days.atMoment = !arguments.has("--date") || arguments.has("--time");
+    if (!days.atMoment) {
+        const Result<double> day = dayOfOption(arguments, "--date");
+        if (!day) {
+            return day.error();
+        }
+        days.first = day.value();
+        days.last = day.value();
+    }
+    return days;
+}
+
 // The nakshatra 0 to 26 of a number 1 to 27, a name or the beginning of only one name.
 std::optional<int> findNakshatra(const std::string& text)
 {
@@ -157,35 +175,23 @@ Result<PanchangaDays> readPanchangaDays(Arguments& arguments)
     if (month && span) {
         return Error{"--month cannot stand beside --from and --to"};
     }
-    PanchangaDays days;
     if (month || span) {
         const std::string typed = month ? "--month" : "--from and --to";
         if (const Result<void> checked = checkSpan(arguments, typed); !checked) {
             return checked.error();
         }
-        const Result<PanchangaDays> read = month ? monthDays(arguments) : spanDays(arguments);
-        if (!read) {
-            return read.error();
-        }
-        days = read.value();
-        days.isSpan = true;
-    } else {
-        if (!arguments.has("--date") && !arguments.has("--now") && !arguments.has("--db")) {
-            return Error{"--date is missing (or give --month, --from and --to, or --now)"};
-        }
-        days.atMoment = arguments.has("--time") || arguments.has("--now") || arguments.has("--db");
-        if (!days.atMoment && arguments.has("--date")) {
-            const Result<double> day = dayOfOption(arguments, "--date");
-            if (!day) {
-                return day.error();
-            }
-            days.first = day.value();
-            days.last = day.value();
-        }
     }
-    // The clock of a day is that of its noon.
-    if (!days.atMoment && arguments.has("--date")) {
-        arguments.store("--time", {"12:00"});
+    Result<PanchangaDays> days = month  ? monthDays(arguments)
+                                 : span ? spanDays(arguments)
+                                        : singleDay(arguments);
+    if (!days || days.value().atMoment) {
+        return days;
+    }
+    days.value().isSpan = month || span;
+    if (arguments.has("--db")) {
+        arguments.store("--date", {}); // the database gives the place and its clock only
+    } else {
+        arguments.store("--time", {"12:00"}); // the clock of a day is that of its noon
     }
     return days;
 }

@@ -210,6 +210,14 @@ class Natives(ProgramTest):
         bare = self.positions(dict(enumerate(HOROSCOPE_R)))
         self.assertEqual(self.strength("--native-positions", bare),
                          self.strength("--native-star", "Dhanishtha 4"))
+        # A database has natives, and places for the days.
+        sample = ["--db", str(PROGRAM.parent / "Sample.ksc")]
+        einstein = self.strength(*sample, "--native", "Albert Einstein")
+        self.assertEqual(einstein, self.strength("--native-star", "Jyeshtha"))
+        ulm = self.json("panchanga", "--month", "2022-01", *sample, "--line", "1")["days"]
+        self.assertEqual(self.json("panchanga", "--date", "2022-01-24", *sample, "--line",
+                                   "1")["days"], ulm[23:24])
+        self.assertAlmostEqual(ulm[23]["sunrise"], 7.7, delta=0.1)
         table = self.text("panchanga", "--month", "2022-01", *DELHI, "--native-star", "Swati 1")
         self.assertRegex(table, r" Tara  Chandra  Month\n")
         self.assertRegex(table, r"\n2022-01-26 .* Swati .* 0 +\+1\n")
