@@ -169,9 +169,9 @@ std::vector<std::wstring> centreLines(const DiagramSubject& subject, bool englis
         lines.push_back(chart.name);
     }
     if (chart.hasMoment) {
-        lines.push_back(
+        lines.push_back(oneLine(
             dateText(chart.time) + L" " +
-            core::FormatClockTrunc(chart.time.localTime, subject.settings.twelveHourClock, false));
+            core::FormatClock(chart.time.localTime, subject.settings.twelveHourClock, false)));
         // Without a place no house system was applied.
         if (chart.houseSystem >= 0 || !chart.place.empty()) {
             lines.push_back(placeLine(chart));

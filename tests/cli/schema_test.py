@@ -64,6 +64,9 @@ class Schema(ProgramTest):
         self.check("strengths", *EXAMPLE, "--name-letter", "3")
         self.check("match", "--positions", self.positions(HOROSCOPE_R),
                    "--with-date", "1996-12-07", "--with-time", "10:34", "--with-zone", "+5:30")
+        for style in ("north", "circle"):
+            self.check("diagram", *EXAMPLE, "--style", style, "--aspects", "all", "--with-date",
+                       "1996-12-07", "--with-time", "10:34", "--with-zone", "+5:30")
         self.check("chart", *EXAMPLE, "--explain", "mars:navamsha", "--explain", "moon:dignity")
         topics = self.json("points", "--explain", "list")
         jsonschema.validate(topics, SCHEMA)
