@@ -190,8 +190,9 @@ std::vector<std::string> unreadTexts(const core::Chart& chart)
     std::vector<std::string> texts;
     const auto test = [&](const std::string& name, const std::wstring& text, bool understood) {
         if (!understood) {
-            texts.push_back("the " + name + " '" + core::toUtf8(text) +
-                            "' is not understood and taken as 0");
+            const std::string what =
+                text.empty() ? " is missing" : " '" + core::toUtf8(text) + "' is not understood";
+            texts.push_back("the " + name + what + " and taken as 0");
         }
     };
     test("time", chart.timeText, data::readTimeText(chart.timeText).has_value());

@@ -104,7 +104,7 @@ Json rowJson(const ShownRow& shown)
     Json object;
     object["line"] = row.line + 1;
     object["name"] = row.name;
-    object["tag"] = core::toUtf8(std::wstring(1, row.tag));
+    object["tag"] = row.tag == L' ' ? Json() : textJson(std::wstring(1, row.tag));
     object["sex"] = row.sex == ' ' ? Json() : Json(std::string(1, row.sex));
     object["code"] = textOrNull(core::fromFileBytes(row.code));
     object["year"] = row.date.year;
