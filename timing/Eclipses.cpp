@@ -7,6 +7,7 @@
 #include "timing/EclipseElements.h"
 
 #include <cmath>
+#include <cstdint>
 #include <optional>
 
 namespace kestrav::timing
@@ -172,13 +173,15 @@ std::wstring_view eclipseKindName(EclipseKind kind)
 bool forEachEclipse(SiderealSky& sky, Span span, const EclipseFilter& filter,
                     FunctionRef<bool(const Eclipse&)> visit)
 {
-    constexpr double kMargin = 3.0; // lunations
-    if (!std::isfinite(span.from) || !std::isfinite(span.to)) {
+    constexpr double kMargin = 3.0;      // lunations
+    constexpr double kFurthestDay = 1e9; // safe as a count of lunations
+    if (!(std::fabs(span.from) < kFurthestDay) || !(std::fabs(span.to) < kFurthestDay)) {
         return true;
     }
-    const double last = lunationNear(span.to) + kMargin;
-    for (double k = lunationNear(span.from) - kMargin; k <= last; k += 0.5) {
-        std::optional<Eclipse> eclipse = eclipseAt(sky, k);
+    const auto last = std::int64_t(2.0 * (lunationNear(span.to) + kMargin));
+    for (auto half = std::int64_t(2.0 * (lunationNear(span.from) - kMargin)); half <= last;
+         ++half) {
+        std::optional<Eclipse> eclipse = eclipseAt(sky, double(half) / 2.0);
         if (!eclipse || !passes(*eclipse, filter) || !(eclipse->julianDay >= span.from) ||
             !(eclipse->julianDay < span.to)) {
             continue;

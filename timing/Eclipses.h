@@ -82,7 +82,7 @@ struct EclipseFilter
 
 /// Calls `visit` for every eclipse whose greatest moment lies from `span.from` to before `span.to`
 /// (Julian days of Universal Time), in order, until it returns false; returns whether it never did.
-/// Nothing is found in a span that is not finite. Measured on the positions of the bodies, the
+/// Nothing is found in a span beyond a billion days. Measured on the positions of the bodies, the
 /// series are good to a minute and a half and to 0.008 Earth radii between the years 1000 and 3000,
 /// to 5 minutes in the year 1, to 30 minutes and 0.026 radii in 2000 BC.
 bool forEachEclipse(SiderealSky& sky, Span span, const EclipseFilter& filter,
