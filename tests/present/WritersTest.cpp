@@ -40,6 +40,23 @@ TEST(Svg, WritesAwkwardTextsSafely)
               "x\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD\t");
 }
 
+TEST(Svg, NamesWithLineEndsAndTabsBecomeOneLine)
+{
+    const core::Settings settings;
+    core::Chart chart = namedChart(settings);
+    chart.name = L"Tab\there\r\nand\x1b there ";
+    for (const DiagramStyle style : kStyles) {
+        DiagramOptions options;
+        options.centre = centreLines({chart, settings}, true);
+        const DisplayList list = layoutDiagram({chart, settings}, style, options, 400.0);
+        EXPECT_EQ(list.title.substr(0, 20), L"Tab here  and  there");
+        for (const Text& text : list.texts) {
+            EXPECT_EQ(text.text.find_first_of(L"\t\r\n\x1b"), std::wstring::npos);
+        }
+        EXPECT_EQ(writeSvg(list).find("\xEF\xBF\xBD"), std::string::npos);
+    }
+}
+
 TEST(Svg, IsTheSameForTheSameChartWhateverTheFlagsOfTheProgram)
 {
     const core::Settings settings;
