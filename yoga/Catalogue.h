@@ -92,6 +92,15 @@ struct Kind
            type == ParameterType::Set;
 }
 
+/// A whole rule as an example of how conditions work together.
+struct RuleExample
+{
+    std::string_view rule;
+    std::string_view meaning;
+};
+
+[[nodiscard]] std::span<const RuleExample> ruleExamples();
+
 /// The catalogue as a Markdown page.
 [[nodiscard]] std::string catalogueDocument();
 

@@ -94,6 +94,30 @@ Houses are numbers 1 to 12, lists `h1+4+7`, or these words:
 
 )";
 
+// clang-format off
+constexpr std::array kRuleExamples = std::to_array<RuleExample>({
+    {"InHouse,,Jup,ken\\Dignity,,Jup,own,exa", "Jupiter in a kendra, in his own sign or exalted"},
+    {"InHouse,,any.tara,Moo,2\\InHouse,,no.tara,Moo,12", "planets other than the Sun in the 2nd from the Moon, and none in the 12th"},
+    {"Hemmed,,Moo,tara", "such planets in the 2nd and in the 12th"},
+    {"InHouse,,all.Mer+Jup+Ven,Moo,6,7,8", "all three benefics in the 6th, 7th and 8th from the Moon, in any order"},
+    {"Between,,all.pla,Rah,Ket\\OR\\Between,,all.pla,Ket,Rah", "all planets on one side of the nodes"},
+    {"InSign,,all.pla,mov", "all planets in movable signs"},
+    {"Fill,,pla,h1+3+5+7+9+11", "the planets in all six odd houses and nowhere else"},
+    {"Fill,,pla,h1+4\\OR\\Fill,,pla,h4+7\\OR\\Fill,,pla,h7+10\\OR\\Fill,,pla,h10+1", "the planets in two neighbouring kendras"},
+    {"Run,,pla,7,2,3,5,6,8,9,11,12", "the planets in seven houses in a row that do not begin in a kendra"},
+    {"Occupied,,pla,3,3", "the planets in exactly three signs"},
+    {"Related,,any.kenL,any.triL", "a lord of a kendra and another planet that is lord of a trikona are related"},
+    {"InHouse,,L6,dus\\(\\InHouse,,L8,dus\\OR\\InHouse,,L12,dus\\)", "the lord of the 6th and one of the lords of the 8th and 12th in dusthanas"},
+    {"Dignity,,Sat,deb\\DebCancelled,,Sat", "Saturn debilitated, and his debilitation cancelled"},
+    {"(\\Sex,,male\\DayBirth,\\InSign,,Asc,odd\\InSign,,all.lum,odd\\OR\\Sex,,female\\DayBirth,,night\\InSign,,Asc,even\\InSign,,all.lum,even\\)", "a man born by day with ascendant, Sun and Moon in odd signs, or a woman born by night with them in even signs"},
+    {"Cluster,,pla,4\\Strongest,,Sat,cluP,shad", "four or more planets in one sign, Saturn the strongest of them"},
+    {"*-1,Nava,Nava,,,,2,,any.ben,AK,tri", "in the navamsha a benefic in a trikona from the Atma karaka"},
+    {"*-1,Rasi,Nava,Ven,,,2,,AK,1", "Venus of the rashi in the sign that is the navamsha of the Atma karaka"},
+    {"Vargottama,,Asc\\*-1,Nava,Nava,,,,51,,R.L10,gfr", "a vargottama ascendant, and the lord of the 10th of the rashi well placed in the navamsha"},
+    {"InHouse,,T.Sat,Moo,12,1,2", "Saturn of the second chart about the Moon"},
+});
+// clang-format on
+
 void add(std::string& page, std::initializer_list<std::string_view> parts)
 {
     for (const std::string_view part : parts) {
@@ -248,6 +272,11 @@ void addKind(std::string& page, const Kind& kind)
 
 } // namespace
 
+std::span<const RuleExample> ruleExamples()
+{
+    return kRuleExamples;
+}
+
 std::string catalogueDocument()
 {
     std::string page(kIntroduction);
@@ -270,6 +299,10 @@ std::string catalogueDocument()
             add(page, {"\n## ", group, "\n"});
         }
         addKind(page, kind);
+    }
+    page += "\n## Whole rules\n\n| rule | meaning |\n|---|---|\n";
+    for (const RuleExample& example : kRuleExamples) {
+        add(page, {"| `", example.rule, "` | ", example.meaning, " |\n"});
     }
     return page;
 }

@@ -1,6 +1,7 @@
 #include "yoga/Catalogue.h"
 
 #include "tests/yoga/ConditionCharts.h"
+#include "yoga/YogaRuleParser.h"
 #include "yoga/conditions/Tests.h"
 
 #include <fstream>
@@ -35,6 +36,19 @@ TEST(Catalogue, everyKindHasItsTestAndAnExampleOfItself)
     }
     for (int number = -1; number <= kMaxKindNumber; ++number) {
         EXPECT_EQ(testOfKind(number) != nullptr, findKind(number) != nullptr) << number;
+    }
+}
+
+TEST(Catalogue, theRulesOfThePageFitTheirKinds)
+{
+    for (const RuleExample& example : ruleExamples()) {
+        const core::Result<YogaRule> rule = YogaRule::read(example.rule);
+        ASSERT_TRUE(rule.ok()) << example.rule;
+        EXPECT_TRUE(bracketsBalanced(rule.value())) << example.rule;
+        EXPECT_TRUE(rule.value().unknownWords().empty()) << example.rule;
+        for (const Condition& condition : rule.value().conditions()) {
+            EXPECT_EQ(conditionProblem(condition), "") << condition.text;
+        }
     }
 }
 

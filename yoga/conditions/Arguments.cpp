@@ -12,8 +12,6 @@ namespace kestrav::yoga
 namespace
 {
 
-using core::at;
-
 std::uint64_t bit(int number)
 {
     return std::uint64_t{1} << unsigned(number);

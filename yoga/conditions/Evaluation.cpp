@@ -201,7 +201,7 @@ std::wstring Evaluation::name(const Place& place, std::size_t index) const
     const int code = value(index) < 0 ? pointCode(core::kAscendant) : value(index);
     if (wordClass(code) == WordClass::Point) {
         const bool plain = pointBase(code) < core::kPointCount && pointStep(code, 0) == kNoStep;
-        const std::wstring words = pointWords(code);
+        std::wstring words = pointWords(code);
         if (plain || place.planet() == 0) {
             return words;
         }
