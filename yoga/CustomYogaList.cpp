@@ -14,6 +14,17 @@ namespace kestrav::yoga
 namespace
 {
 
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+// The mark at the beginning of a text is none of it, and would be lost in the first line.
+std::string_view withoutMark(std::string_view text)
+{
+    while (text.starts_with(kByteOrderMark)) {
+        text.remove_prefix(kByteOrderMark.size());
+    }
+    return text;
+}
+
 void appendClean(std::string& text, std::string_view part)
 {
     for (const char byte : part) {
@@ -34,7 +45,8 @@ core::Result<std::vector<CustomYoga>> parseCustomYogas(std::span<const std::uint
     }
     std::vector<CustomYoga> yogas;
     for (std::size_t i = 0; i < lines.value().size(); ++i) {
-        const std::string line = core::toUtf8(core::fromFileBytes(lines.value().line(i)));
+        const std::string text = core::toUtf8(core::fromFileBytes(lines.value().line(i)));
+        const std::string line(withoutMark(text));
         if (line.empty()) {
             continue;
         }
@@ -68,7 +80,7 @@ std::string formatCustomYogas(std::span<const CustomYoga> yogas)
 {
     std::string text;
     for (const CustomYoga& yoga : yogas) {
-        appendClean(text, yoga.title);
+        appendClean(text, withoutMark(yoga.title));
         text += '\t';
         appendClean(text, yoga.rule);
         text += '\n';

@@ -251,7 +251,7 @@ TEST_F(YogaFiles, CustomList)
     EXPECT_EQ(get(kCustomYogaFile), "a b\tc d\n");
     EXPECT_EQ(get("cusyog2.BAK"), "Gaja Kesari\tA\\B\nOnly a title\t\n");
 
-    put(kCustomYogaFile, "\xEF\xBB\xBFOne\tA\r\n\r\nna\xEFve\tB\r\nno rule");
+    put(kCustomYogaFile, "\xEF\xBB\xBF\xEF\xBB\xBFOne\tA\r\n\r\nna\xEFve\tB\r\nno rule");
     const auto foreign = readCustomYogas(path);
     ASSERT_TRUE(foreign.ok());
     EXPECT_EQ(foreign.value(),
