@@ -17,6 +17,9 @@
 #include "app/cli/ReportCommand.h"
 #include "app/cli/SettingsCommands.h"
 #include "app/cli/TransitCommand.h"
+#include "app/cli/YogaCommand.h"
+#include "app/cli/YogaCommandChart.h"
+#include "app/cli/YogaCommandSearch.h"
 
 #include <array>
 
@@ -61,6 +64,13 @@ std::span<const Command* const> allCommands()
     static const EclipsesCommand eclipses;
     static const TableCommand table;
     static const ReportCommand report;
+    static const ListYogasCommand listYogas;
+    static const CheckYogasCommand checkYogas;
+    static const FindYogasCommand findYogas;
+    static const SearchYogaCommand searchYoga;
+    static const ExplainYogaCommand explainYoga;
+    static const YogaKindsCommand yogaKinds;
+    static const ResearchTableCommand researchTable;
     static const ListSettingsCommand listSettings;
     static const GetSettingCommand getSetting;
     static const SetSettingCommand setSetting;
@@ -69,17 +79,19 @@ std::span<const Command* const> allCommands()
     static const SetAyanamsaCommand setAyanamsa;
     static const ResetAyanamsasCommand resetAyanamsas;
     static const auto kAll = std::to_array<const Command*>({
-        &chart,           &positions,       &houses,         &sun,
-        &vargas,          &dignities,       &strengths,      &ashtakavarga,
-        &points,          &match,           &diagram,        &dasha,
-        &panchanga,       &transits,        &listCharts,     &sortCharts,
-        &showChart,       &newDatabase,     &addChart,       &updateChart,
-        &deleteChart,     &groupCharts,     &orderDates,     &checkDatabase,
-        &refreshResearch, &mergeDatabase,   &importCharts,   &exportCharts,
-        &backUpDatabase,  &restoreDatabase, &findPlaces,     &placeZone,
-        &ephemeris,       &eclipses,        &table,          &report,
-        &listSettings,    &getSetting,      &setSetting,     &resetSettings,
-        &listAyanamsas,   &setAyanamsa,     &resetAyanamsas,
+        &chart,           &positions,       &houses,        &sun,
+        &vargas,          &dignities,       &strengths,     &ashtakavarga,
+        &points,          &match,           &diagram,       &dasha,
+        &panchanga,       &transits,        &listCharts,    &sortCharts,
+        &showChart,       &newDatabase,     &addChart,      &updateChart,
+        &deleteChart,     &groupCharts,     &orderDates,    &checkDatabase,
+        &refreshResearch, &mergeDatabase,   &importCharts,  &exportCharts,
+        &backUpDatabase,  &restoreDatabase, &findPlaces,    &placeZone,
+        &ephemeris,       &eclipses,        &table,         &report,
+        &listYogas,       &checkYogas,      &findYogas,     &searchYoga,
+        &explainYoga,     &yogaKinds,       &researchTable, &listSettings,
+        &getSetting,      &setSetting,      &resetSettings, &listAyanamsas,
+        &setAyanamsa,     &resetAyanamsas,
     });
     return kAll;
 }
@@ -89,6 +101,7 @@ std::span<const GroupInfo> commandGroups()
     static constexpr auto kGroups = std::to_array<GroupInfo>({
         {"db", "Keep charts in databases"},
         {"atlas", "Look places and their time zones up"},
+        {"yogas", "Find yogas by rules, in charts and in databases"},
         {"settings", "Show and change the stored settings"},
         {"settings ayanamsa", "Show and change the table of ayanamsas"},
     });

@@ -1,0 +1,301 @@
+#include "app/cli/ComputedChart.h"
+#include "app/cli/Console.h"
+#include "app/cli/SharedOptions.h"
+#include "app/cli/TextTable.h"
+#include "app/cli/YogaCommandResearch.h"
+#include "app/cli/YogaCommandSearch.h"
+#include "core/FileText.h"
+#include "core/NumberText.h"
+#include "yoga/ResearchTable.h"
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace kestrav::cli
+{
+
+namespace
+{
+
+constexpr std::array<OptionInfo, 6> kTableOptions = {{
+    {"--column", "KEY", "a column such as moon.nakshatra or name; may be repeated", true},
+    {"--by", "KEY", "sort the rows by this column"},
+    {"--count", "KEY", "count the charts by the values of this column instead of listing them"},
+    {"--average", "KEY", "add the average of this column to the counts; may be repeated", true},
+    {"--graph", "KEY", "the numbers of a graph of this column instead of a list"},
+    {"--bars", "N", "bars of a graph of numbers, 1 to 1000; 12 when not given"},
+}};
+
+constexpr int kUsualBars = 12;
+constexpr int kMostBars = 1000;
+
+struct TableRequest
+{
+    std::vector<std::size_t> columns;
+    std::optional<std::size_t> by;
+    std::optional<std::size_t> count;
+    std::vector<std::size_t> averages;
+    std::optional<std::size_t> graph;
+    int bars = kUsualBars;
+    std::optional<wchar_t> tag;
+};
+
+core::Result<std::vector<std::size_t>> columnsOf(const Arguments& arguments, const char* option)
+{
+    std::vector<std::size_t> columns;
+    for (const std::string& key : arguments.values(option)) {
+        const std::optional<std::size_t> column = yoga::findResearchColumn(key);
+        if (!column) {
+            std::string keys;
+            for (const yoga::ResearchColumn& one : yoga::researchColumns()) {
+                keys += (keys.empty() ? "" : ", ") + one.key;
+            }
+            return core::Error{std::string(option) + " '" + key + "' is no column; there are " +
+                               keys};
+        }
+        columns.push_back(*column);
+    }
+    return columns;
+}
+
+std::optional<std::size_t> firstOf(const std::vector<std::size_t>& columns)
+{
+    return columns.empty() ? std::nullopt : std::optional(columns.front());
+}
+
+core::Result<TableRequest> readRequest(const Arguments& arguments)
+{
+    TableRequest request;
+    std::array<std::vector<std::size_t>, 5> lists;
+    constexpr std::array<const char*, 5> kOptions = {"--column", "--by", "--count", "--average",
+                                                     "--graph"};
+    for (std::size_t i = 0; i < kOptions.size(); ++i) {
+        core::Result<std::vector<std::size_t>> columns = columnsOf(arguments, kOptions[i]);
+        if (!columns) {
+            return columns.error();
+        }
+        lists[i] = std::move(columns.value());
+    }
+    request.columns = lists[0];
+    request.by = firstOf(lists[1]);
+    request.count = firstOf(lists[2]);
+    request.averages = lists[3];
+    request.graph = firstOf(lists[4]);
+    const int kinds = int(!request.columns.empty()) + int(request.count.has_value()) +
+                      int(request.graph.has_value());
+    if (kinds != 1) {
+        return core::Error{"give one of --column, --count and --graph"};
+    }
+    if (const std::optional<std::string> bars = arguments.value("--bars")) {
+        request.bars = core::parseInteger(*bars).value_or(0);
+        if (request.bars < 1 || request.bars > kMostBars) {
+            return core::Error{"--bars '" + *bars + "' is not a whole number from 1 to 1000"};
+        }
+    }
+    const core::Result<std::optional<wchar_t>> tag = typedTag(arguments);
+    if (!tag) {
+        return tag.error();
+    }
+    request.tag = tag.value();
+    return request;
+}
+
+const yoga::ResearchColumn& column(std::size_t index)
+{
+    return yoga::researchColumns()[index];
+}
+
+bool isNumber(std::size_t index)
+{
+    const yoga::ColumnType type = column(index).type;
+    return type != yoga::ColumnType::Text && type != yoga::ColumnType::Motion;
+}
+
+std::vector<std::size_t> rowsOf(const yoga::ResearchTable& table, const TableRequest& request)
+{
+    if (request.by) {
+        return table.sortedRows(*request.by);
+    }
+    std::vector<std::size_t> rows(table.lines().size());
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        rows[i] = i;
+    }
+    return rows;
+}
+
+// A number, or the text of a column of texts.
+Json cellJson(const yoga::ResearchTable& table, std::size_t row, std::size_t index)
+{
+    return isNumber(index) ? numberJson(table.number(row, index))
+                           : textOrNull(table.text(row, index));
+}
+
+Json keysJson(const std::vector<std::size_t>& columns)
+{
+    Json keys = Json::array();
+    for (const std::size_t index : columns) {
+        keys.push_back(column(index).key);
+    }
+    return keys;
+}
+
+void addRows(Json& object, const yoga::ResearchTable& table, const TableRequest& request)
+{
+    object["columns"] = keysJson(request.columns);
+    object["rows"] = Json::array();
+    for (const std::size_t row : rowsOf(table, request)) {
+        Json entry;
+        entry["line"] = table.lines()[row] + 1;
+        entry["values"] = Json::array();
+        for (const std::size_t index : request.columns) {
+            entry["values"].push_back(cellJson(table, row, index));
+        }
+        object["rows"].push_back(std::move(entry));
+    }
+}
+
+void addGroups(Json& object, const yoga::ResearchTable& table, const TableRequest& request)
+{
+    object["groupedBy"] = column(*request.count).key;
+    object["averaged"] = keysJson(request.averages);
+    object["groups"] = Json::array();
+    for (const yoga::TableGroup& group : table.groups(*request.count, request.averages)) {
+        Json entry;
+        entry["label"] = textOrNull(group.label);
+        entry["value"] = numberJson(group.value);
+        entry["count"] = group.count;
+        entry["averages"] = Json::array();
+        for (const std::optional<double>& average : group.averages) {
+            entry["averages"].push_back(numberJson(average));
+        }
+        object["groups"].push_back(std::move(entry));
+    }
+}
+
+void addBars(Json& object, const yoga::ResearchTable& table, const TableRequest& request)
+{
+    object["graphOf"] = column(*request.graph).key;
+    object["bars"] = Json::array();
+    for (const yoga::GraphBar& bar : table.graph(*request.graph, std::size_t(request.bars))) {
+        Json entry;
+        entry["label"] = textJson(bar.label);
+        entry["low"] = bar.low;
+        entry["high"] = bar.high;
+        entry["count"] = bar.count;
+        object["bars"].push_back(std::move(entry));
+    }
+}
+
+using Align = TextTable::Align;
+
+Align alignOf(std::size_t index)
+{
+    const yoga::ColumnType type = column(index).type;
+    return type == yoga::ColumnType::Number || type == yoga::ColumnType::Angle ||
+                   type == yoga::ColumnType::Clock || type == yoga::ColumnType::House
+               ? Align::Right
+               : Align::Left;
+}
+
+std::wstring rowsText(const yoga::ResearchTable& table, const TableRequest& request)
+{
+    std::vector<TextTable::Column> headings = {{L"Line", Align::Right}};
+    for (const std::size_t index : request.columns) {
+        headings.push_back({yoga::columnHeading(column(index)), alignOf(index)});
+    }
+    TextTable text(std::move(headings));
+    for (const std::size_t row : rowsOf(table, request)) {
+        std::vector<std::wstring> cells = {std::to_wstring(table.lines()[row] + 1)};
+        for (const std::size_t index : request.columns) {
+            cells.push_back(table.text(row, index));
+        }
+        text.add(std::move(cells));
+    }
+    return text.text();
+}
+
+std::wstring groupsText(const yoga::ResearchTable& table, const TableRequest& request)
+{
+    std::vector<TextTable::Column> headings = {
+        {yoga::columnHeading(column(*request.count)), alignOf(*request.count)},
+        {L"Charts", Align::Right}};
+    for (const std::size_t index : request.averages) {
+        headings.push_back({yoga::columnHeading(column(index)), Align::Right});
+    }
+    TextTable text(std::move(headings));
+    for (const yoga::TableGroup& group : table.groups(*request.count, request.averages)) {
+        std::vector<std::wstring> cells = {group.label.empty() ? L"--" : group.label,
+                                           std::to_wstring(group.count)};
+        for (std::size_t i = 0; i < request.averages.size(); ++i) {
+            const std::optional<double>& average = group.averages[i];
+            cells.push_back(average ? yoga::columnValueText(*average, column(request.averages[i]))
+                                    : L"--");
+        }
+        text.add(std::move(cells));
+    }
+    return text.text();
+}
+
+std::wstring barsText(const yoga::ResearchTable& table, const TableRequest& request)
+{
+    TextTable text({{yoga::columnHeading(column(*request.graph))}, {L"Charts", Align::Right}});
+    for (const yoga::GraphBar& bar : table.graph(*request.graph, std::size_t(request.bars))) {
+        text.add({bar.label, std::to_wstring(bar.count)});
+    }
+    return text.text();
+}
+
+} // namespace
+
+ResearchTableCommand::ResearchTableCommand()
+    : DatabaseCommand("yogas table",
+                      "Tabulate, count or average what the research database says of charts", {},
+                      {kTableOptions, kTagOption, kYesOption})
+{}
+
+ExitCode ResearchTableCommand::work(DatabaseCall& call) const
+{
+    const core::Result<TableRequest> read = readRequest(call.arguments);
+    if (!read) {
+        return usageError(call, read.error().message);
+    }
+    const TableRequest& request = read.value();
+    ExitCode code = ExitCode::Done;
+    const std::optional<CallData> data = openCall(call.arguments, call.console, code);
+    const std::optional<data::LineList> research =
+        data ? openResearch(call, data->data.series, code) : std::nullopt;
+    if (!research) {
+        return code;
+    }
+    const yoga::ResearchTable table =
+        request.tag ? yoga::ResearchTable(*research, call.database, *request.tag)
+                    : yoga::ResearchTable(*research);
+    if (!call.json()) {
+        call.console.print(request.graph   ? barsText(table, request)
+                           : request.count ? groupsText(table, request)
+                                           : rowsText(table, request));
+        return ExitCode::Done;
+    }
+    Json object = call.object();
+    object["charts"] = table.lines().size();
+    for (const char* const key :
+         {"columns", "rows", "groupedBy", "averaged", "groups", "graphOf", "bars"}) {
+        object[key] = nullptr;
+    }
+    if (request.graph) {
+        addBars(object, table, request);
+    } else if (request.count) {
+        addGroups(object, table, request);
+    } else {
+        addRows(object, table, request);
+    }
+    call.console.print(jsonText(object));
+    return ExitCode::Done;
+}
+
+} // namespace kestrav::cli
