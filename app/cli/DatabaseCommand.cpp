@@ -23,10 +23,23 @@ constexpr std::array<OptionInfo, 1> kDatabaseOption = {{
     {"--db", "FILE", "the chart database"},
 }};
 
+// Where nothing else is told by its place the database may be.
+constexpr PositionalInfo kDatabasePlace = {"DATABASE", "the chart database, instead of --db",
+                                           false};
+
+std::optional<std::string> databaseFile(const Arguments& arguments)
+{
+    const std::optional<std::string> option = arguments.value("--db");
+    return option ? option : arguments.value(kDatabasePlace.name);
+}
+
 CommandInfo databaseInfo(std::string_view name, std::string_view description,
                          std::vector<PositionalInfo> positionals,
                          std::vector<std::span<const OptionInfo>> options)
 {
+    if (positionals.empty()) {
+        positionals.push_back(kDatabasePlace);
+    }
     options.insert(options.begin(), kDatabaseOption);
     options.insert(options.end(), {kSetOptions, kCommonOptions});
     return {name, description, std::move(positionals), std::move(options)};
@@ -48,9 +61,14 @@ DatabaseCommand::DatabaseCommand(std::string_view name, std::string_view descrip
 
 ExitCode DatabaseCommand::run(const Arguments& arguments, Console& console) const
 {
-    const std::optional<std::string> file = arguments.value("--db");
+    const std::optional<std::string> file = databaseFile(arguments);
     if (!file) {
         console.error("--db is missing");
+        return ExitCode::Usage;
+    }
+    if (arguments.has("--db") && arguments.has(kDatabasePlace.name)) {
+        console.error("the database is named twice, '" + *file + "' and '" +
+                      *arguments.value(kDatabasePlace.name) + "'");
         return ExitCode::Usage;
     }
     if (data::isImportName(*file)) {

@@ -23,7 +23,9 @@ std::optional<std::size_t> lineOf(DatabaseCall& call, const Arguments& arguments
 
 std::optional<std::size_t> chosenChart(DatabaseCall& call, core::Chart& chart, ExitCode& code)
 {
-    const std::optional<std::size_t> line = lineOf(call, call.arguments, code);
+    Arguments arguments = call.arguments;
+    arguments.store("--db", {call.path.string()});
+    const std::optional<std::size_t> line = lineOf(call, arguments, code);
     if (line) {
         readLineInOrder(call.database, *line, chart);
     }

@@ -179,6 +179,9 @@ class Editing(DatabaseTest):
         self.assertEqual(self.lines(), before)
         self.assertFalse(self.file.with_suffix(".BAK").exists())
         self.assertFails(2, "--db is missing", "db", "list")
+        self.assertEqual(self.text("db", "show", "my.ksc", "--line", "1"),
+                         self.db("show", "--line", "1"))
+        self.db("list", "other.ksc", code=2, told=["named twice"])
         self.assertFails(2, "db import", "db", "list", "--db", "old.QCK")
         self.assertFails(1, "Error: This file is not found, please use 'File/Open Database'", "db",
                          "list", "--db", "none.ksc")
