@@ -14,6 +14,7 @@
 #include <random>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace
 {
@@ -98,16 +99,8 @@ BENCHMARK_CAPTURE(searchAMillion, mixed, kMixed)
     ->MeasureProcessCPUTime()
     ->UseRealTime();
 
-void wholeLibraryOnAChart(benchmark::State& state)
+core::Chart someChart(const core::Settings& settings)
 {
-    yoga::YogaLibrary library;
-    for (const auto& path : yoga::standardYogaFiles()) {
-        if (!library.load(path)) {
-            state.SkipWithError("a yoga file cannot be read");
-            return;
-        }
-    }
-    const core::Settings settings;
     astro::EphemerisContext context(series());
     core::Chart chart;
     chart.time.year = 1996;
@@ -119,7 +112,15 @@ void wholeLibraryOnAChart(benchmark::State& state)
     chart.geoLatitude = 13.0;
     analysis::ComputeChart(chart, settings, context);
     analysis::AnalyseChart(chart, settings, context);
+    return chart;
+}
+
+void testYogas(benchmark::State& state, const yoga::YogaLibrary& library)
+{
+    const core::Settings settings;
+    const core::Chart chart = someChart(settings);
     yoga::Subject subject(settings, &series());
+    subject.setMoment(2455197.5);
     std::size_t holding = 0;
     for (auto _ : state) {
         subject.setChart(chart);
@@ -128,7 +129,32 @@ void wholeLibraryOnAChart(benchmark::State& state)
     state.counters["yogas"] = double(library.all().size());
     state.counters["holding"] = double(holding);
 }
+
+void wholeLibraryOnAChart(benchmark::State& state)
+{
+    yoga::YogaLibrary library;
+    for (const auto& path : yoga::standardYogaFiles()) {
+        if (!library.load(path)) {
+            state.SkipWithError("a yoga file cannot be read");
+            return;
+        }
+    }
+    testYogas(state, library);
+}
 BENCHMARK(wholeLibraryOnAChart)->Unit(benchmark::kMicrosecond);
+
+// One condition of every kind, so that everything a condition can ask for is computed.
+void everyKindOnAChart(benchmark::State& state)
+{
+    yoga::YogaFile file;
+    for (const yoga::Kind& kind : yoga::kinds()) {
+        file.yogas.emplace_back().rule = kind.example;
+    }
+    yoga::YogaLibrary library;
+    library.store("kinds", std::move(file));
+    testYogas(state, library);
+}
+BENCHMARK(everyKindOnAChart)->Unit(benchmark::kMicrosecond);
 
 } // namespace
 
