@@ -21,7 +21,7 @@ namespace
 // Shares of the side of a diagram.
 constexpr double kFontShare = 0.036;
 constexpr double kCircleFontShare = 0.036;
-constexpr double kDoubleFontShare = 0.028;
+constexpr double kDoubleFontShare = 0.026;
 constexpr double kStrokeShare = 0.0028;
 constexpr double kLeastStroke = 0.7;
 constexpr double kLeastFont = 8.0;
@@ -86,6 +86,18 @@ std::wstring descriptionOf(const DiagramSubject& subject, const DiagramOptions& 
     }
     const std::wstring missing = missingPoints(subject, options);
     return missing.empty() ? text : text + missing + L"\n";
+}
+
+// Texts keep the lines of aspects away with the colour of the area that they stand on.
+void addHalos(DisplayList& list)
+{
+    for (Text& text : list.texts) {
+        const auto area =
+            std::find_if(list.shapes.rbegin(), list.shapes.rend(), [&text](const Shape& shape) {
+                return shape.fill && contains(shape.points, text.box.centre());
+            });
+        text.halo = area == list.shapes.rend() ? ColourRole::Paper : *area->fill;
+    }
 }
 
 std::uint32_t namesOf(const DiagramOptions& options)
@@ -163,6 +175,9 @@ DisplayList layoutDiagram(const DiagramSubject& subject, DiagramStyle style,
     case DiagramStyle::Circle:
         layoutCircle(frame, list);
         break;
+    }
+    if (options.aspectsOf.any()) {
+        addHalos(list);
     }
     return list;
 }

@@ -32,13 +32,14 @@ public:
     std::vector<std::wstring> fitted(double& size) const
     {
         std::vector<std::wstring> lines;
-        size = size_;
         const double least = options_.characterGrid ? size_ : size_ * kLeastScale;
-        for (; size >= least * 0.999; size *= 0.95) {
+        size = size_;
+        while (size >= least * 0.999) {
             lines = broken(size);
             if (double(lines.size()) <= room(size)) {
                 return lines;
             }
+            size *= 0.95;
         }
         size = least;
         lines = broken(size);

@@ -48,7 +48,7 @@ struct DiagramFrame
     /// A text of the list in a box of its own height.
     [[nodiscard]] Text text(std::wstring words, const Box& box, ColourRole role, int region) const
     {
-        return {std::move(words), box, box.height(), role, region, options.aspectsOf.any()};
+        return {std::move(words), box, box.height(), role, region, std::nullopt};
     }
 };
 

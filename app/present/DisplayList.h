@@ -74,8 +74,8 @@ struct Text
     Box box;
     double size = 0.0;
     ColourRole role = ColourRole::Text;
-    int region = -1;   ///< the region of the list that holds the text; -1 for none
-    bool halo = false; ///< lines under the text are kept away from its letters
+    int region = -1;                ///< the region of the list that holds the text; -1 for none
+    std::optional<ColourRole> halo; ///< the area around its letters, which keeps lines away
 };
 
 enum class RegionKind : std::uint8_t

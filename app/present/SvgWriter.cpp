@@ -168,8 +168,8 @@ private:
              << text.box.top + kAscent * text.size << "\" font-size=\"" << text.size << "\" fill=\""
              << colour(text.role) << "\"";
         if (text.halo) {
-            svg_ << " stroke=\"" << colour(ColourRole::Paper) << "\" stroke-width=\""
-                 << 0.25 * text.size << "\" stroke-linejoin=\"round\" paint-order=\"stroke\"";
+            svg_ << " stroke=\"" << colour(*text.halo) << "\" stroke-width=\"" << 0.25 * text.size
+                 << "\" stroke-linejoin=\"round\" paint-order=\"stroke\"";
         }
         svg_ << ">" << withTextForms(text.text) << "</text>\n";
     }

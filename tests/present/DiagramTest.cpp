@@ -47,11 +47,15 @@ std::vector<std::wstring> textsIn(const DisplayList& list, RegionKind kind, int 
     return found;
 }
 
+// The region of a point that is shown; a point without one fails the test.
 const Region& pointRegion(const DisplayList& list, int point, int layer = 0)
 {
-    return *std::find_if(list.regions.begin(), list.regions.end(), [=](const Region& region) {
-        return region.kind == RegionKind::Point && region.index == point && region.layer == layer;
-    });
+    const auto found =
+        std::find_if(list.regions.begin(), list.regions.end(), [=](const Region& region) {
+            return region.kind == RegionKind::Point && region.index == point &&
+                   region.layer == layer;
+        });
+    return list.regions.at(std::size_t(found - list.regions.begin()));
 }
 
 std::wstring textAt(const DisplayList& list, const Region& region)
