@@ -104,7 +104,7 @@ private:
         struct Group
         {
             double mean;
-            double count;
+            int count;
         };
         std::vector<double> shift(task_.angles.size(), 0.0);
         std::vector<Group> groups;
@@ -112,7 +112,7 @@ private:
             if (i > 0) {
                 shift[i] = shift[i - 1] + 0.5 * (room(i - 1) + room(i));
             }
-            groups.push_back({task_.angles[i] - shift[i], 1.0});
+            groups.push_back({task_.angles[i] - shift[i], 1});
             while (groups.size() > 1 && groups[groups.size() - 2].mean > groups.back().mean) {
                 const Group last = groups.back();
                 groups.pop_back();
@@ -124,7 +124,7 @@ private:
         }
         wanted_.clear();
         for (const Group& group : groups) {
-            for (double i = 0.0; i < group.count; i += 1.0) {
+            for (int i = 0; i < group.count; ++i) {
                 wanted_.push_back(group.mean + shift[wanted_.size()]);
             }
         }

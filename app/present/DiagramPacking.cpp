@@ -124,10 +124,9 @@ private:
         if (task_.characterGrid) {
             top = 2.0 * std::floor(top / 2.0) + 1.0;
         }
-        const auto lines =
-            double((widths.size() + std::size_t(columns) - 1) / std::size_t(columns));
+        const auto lines = int(widths.size() + std::size_t(columns) - 1) / columns;
         if (top < task_.area.top() ||
-            top + (lines - 1.0) * line + size > task_.area.bottom() + 1e-9) {
+            top + (lines - 1) * line + size > task_.area.bottom() + 1e-9) {
             return false;
         }
         // A line may be too narrow for any label; later ones can be wider.
@@ -219,7 +218,8 @@ Box placeText(const ConvexArea& area, Spot spot, double width, double size, bool
     if (characterGrid) {
         // The grid has one size; a text that does not fit at its spot moves inwards by lines.
         for (int i = 0; i < 40; ++i) {
-            const double shift = (i % 2 == 0 ? 1.0 : -1.0) * 2.0 * double((i + 1) / 2);
+            const int lines = (i + 1) / 2;
+            const double shift = i % 2 == 0 ? 2.0 * lines : -2.0 * lines;
             const double top = 2.0 * std::floor((spot.y - size / 2.0 + shift) / 2.0) + 1.0;
             const Interval room = area.across(top, top + size);
             double left = std::floor(std::min(std::max(spot.x - width * size / 2.0, room.low),

@@ -35,8 +35,8 @@ class Canvas
 {
 public:
     Canvas(int columns, int rows)
-        : columns_(columns), rows_(rows), cells_(std::size_t(columns * rows), L' '),
-          joints_(std::size_t(columns * rows), 0)
+        : columns_(columns), rows_(rows), cells_(std::size_t(columns) * std::size_t(rows), L' '),
+          joints_(cells_.size(), 0)
     {}
 
     // A line between two cells' centres.
@@ -115,7 +115,7 @@ private:
 
     [[nodiscard]] std::size_t index(int column, int row) const
     {
-        return std::size_t(row * columns_ + column);
+        return std::size_t(row) * std::size_t(columns_) + std::size_t(column);
     }
 
     void join(int column, int row, std::uint8_t directions)
@@ -152,9 +152,10 @@ private:
     void diagonal(Spot from, Spot to)
     {
         const bool falling = to.x > from.x;
-        for (double y = from.y + 2.0; y < to.y - 0.5; y += 2.0) {
-            const double x = falling ? from.x + y - from.y : from.x - (y - from.y);
-            const int row = int(std::lround(y / 2.0));
+        const int rows = int(std::lround((to.y - from.y) / 2.0));
+        for (int i = 1; i < rows; ++i) {
+            const double x = falling ? from.x + 2.0 * i : from.x - 2.0 * i;
+            const int row = int(std::lround(from.y / 2.0 + i));
             const int column = int(std::lround(x)) - (falling ? 1 : 0);
             put(column, row, falling ? L'`' : L'.');
             put(column + 1, row, falling ? L'.' : L'\'');

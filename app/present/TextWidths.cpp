@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <type_traits>
 
 namespace kestrav::present
 {
@@ -45,11 +46,17 @@ bool within(const Ranges& ranges, std::uint32_t code)
     return after != ranges.begin() && code <= std::prev(after)->last;
 }
 
+// The code of a character; the type of wide characters is signed on this system.
+constexpr std::uint32_t codeOf(wchar_t character)
+{
+    return static_cast<std::make_unsigned_t<wchar_t>>(character);
+}
+
 constexpr double kUnknownWidth = 0.75;
 
 double tableWidth(wchar_t character)
 {
-    const auto code = static_cast<std::uint32_t>(character);
+    const auto code = codeOf(character);
     const std::span<const WidthRun> runs = widthRuns();
     const auto after =
         std::upper_bound(runs.begin(), runs.end(), code,
@@ -85,7 +92,7 @@ double textWidth(std::wstring_view text)
     const std::array<double, kQuickCharacters>& quick = quickWidths();
     double width = 0.0;
     for (const wchar_t character : text) {
-        const auto code = static_cast<std::size_t>(character);
+        const auto code = std::size_t{codeOf(character)};
         width += code < kQuickCharacters ? quick[code] : tableWidth(character);
     }
     return width;
@@ -93,7 +100,7 @@ double textWidth(std::wstring_view text)
 
 int columnsOf(wchar_t character)
 {
-    const auto code = static_cast<std::uint32_t>(character);
+    const auto code = codeOf(character);
     if (within(kCombining, code)) {
         return 0;
     }
