@@ -1,5 +1,6 @@
 #include "core/Files.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <fcntl.h>
@@ -156,6 +157,9 @@ Result<std::vector<std::uint8_t>> readFile(const fs::path& path, std::uintmax_t 
         return Error{"not a regular file", path.string()};
     }
     std::vector<std::uint8_t> bytes;
+    // Only room, and not for any size: what is read counts, not what the file system says.
+    constexpr std::uintmax_t kMostRoom = std::uintmax_t{1} << 30;
+    bytes.reserve(std::min({std::uintmax_t(status.st_size), largest, kMostRoom}));
     std::array<std::uint8_t, 65536> block{};
     for (;;) {
         const ssize_t count = ::read(file.number(), block.data(), block.size());
