@@ -85,7 +85,9 @@ private:
         for (const PositionalInfo& positional : command.info().positionals) {
             const std::string name(positional.name);
             CLI::Option* const option = node->add_option(name, leaf.values[name]);
-            option->expected(positional.required ? 1 : 0, positional.many ? kManyWords : 1);
+            // An optional one of at most one word would take none.
+            const int least = positional.required || !positional.many ? 1 : 0;
+            option->expected(least, positional.many ? kManyWords : 1);
             option->required(positional.required)->allow_extra_args(positional.many);
         }
         for (const std::span<const OptionInfo> group : command.info().optionGroups) {
