@@ -5,6 +5,7 @@
 #include "yoga/RuleEdit.h"
 
 #include <algorithm>
+#include <unordered_set>
 #include <utility>
 
 namespace kestrav::yoga
@@ -79,8 +80,9 @@ std::vector<CustomYoga> asCustomYogas(const YogaFile& file)
 std::vector<std::string> chaptersOf(const YogaFile& file)
 {
     std::vector<std::string> chapters;
+    std::unordered_set<std::string_view> seen;
     for (const Yoga& yoga : file.yogas) {
-        if (std::find(chapters.begin(), chapters.end(), yoga.chapter) == chapters.end()) {
+        if (seen.insert(yoga.chapter).second) {
             chapters.push_back(yoga.chapter);
         }
     }

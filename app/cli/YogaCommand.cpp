@@ -17,6 +17,8 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <map>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -77,15 +79,14 @@ std::wstring listText(const yoga::YogaLibrary& library, const std::optional<std:
         const std::wstring name = core::fromFileBytes(file.file.name);
         text += (text.empty() ? L"" : L"\n") + core::fromFileBytes(file.path.string()) +
                 (name.empty() ? L"" : L": " + name) + L"\n";
+        std::map<std::string_view, std::wstring> titles;
+        for (const yoga::Yoga& yoga : file.file.yogas) {
+            titles[yoga.chapter] += L"    " + core::fromFileBytes(yoga.title) + L"\n";
+        }
         for (const std::string& one : yoga::chaptersOf(file.file)) {
-            if (chapter && *chapter != one) {
-                continue;
-            }
-            text += one.empty() ? L"" : L"  " + core::fromFileBytes(one) + L"\n";
-            for (const yoga::Yoga& yoga : file.file.yogas) {
-                if (yoga.chapter == one) {
-                    text += L"    " + core::fromFileBytes(yoga.title) + L"\n";
-                }
+            if (!chapter || *chapter == one) {
+                text += one.empty() ? L"" : L"  " + core::fromFileBytes(one) + L"\n";
+                text += titles[one];
             }
         }
     }
