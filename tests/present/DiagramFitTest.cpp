@@ -174,6 +174,7 @@ TEST_P(DiagramFit, TenBodiesInOneSignAreShown)
     const core::Settings settings;
     for (int sign = 0; sign < 12; ++sign) {
         std::vector<double> longitudes;
+        longitudes.reserve(10);
         for (int point = 0; point < 10; ++point) {
             longitudes.push_back(sign * 30.0 + 1.5 + 2.8 * point);
         }
