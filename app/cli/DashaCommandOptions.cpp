@@ -170,32 +170,6 @@ Result<void> readDate(const Arguments& arguments, std::string_view option,
     return {};
 }
 
-Result<void> readAt(const std::string& text, DashaRequest& request)
-{
-    if (text == "now") {
-        const Result<double> moment = presentMoment();
-        if (!moment) {
-            return moment.error();
-        }
-        request.atJulianDay = kUnixEpoch + moment.value() / kSecondsPerDay;
-        return {};
-    }
-    const std::size_t mark = text.find_first_of("T ");
-    const Result<core::CivilDate> date = core::parseDate(text.substr(0, mark));
-    if (!date) {
-        return Error{"--at: " + date.error().message};
-    }
-    request.atDate = date.value();
-    if (mark != std::string::npos) {
-        const Result<double> hour = core::parseClock(text.substr(mark + 1));
-        if (!hour) {
-            return Error{"--at: " + hour.error().message};
-        }
-        request.atHour = hour.value();
-    }
-    return {};
-}
-
 Result<void> checkPairs(const Arguments& arguments)
 {
     for (const auto& [date, age] : {std::pair{"--from", "--from-age"}, {"--to", "--to-age"}}) {
@@ -358,6 +332,32 @@ Result<timing::DashaSpan> dashaSpan(const DashaRequest& request, const Arguments
     span.startAge = start.value();
     span.endAge = end.value();
     return span;
+}
+
+core::Result<void> readAt(const std::string& text, DashaRequest& request)
+{
+    if (text == "now") {
+        const Result<double> moment = presentMoment();
+        if (!moment) {
+            return moment.error();
+        }
+        request.atJulianDay = kUnixEpoch + moment.value() / kSecondsPerDay;
+        return {};
+    }
+    const std::size_t mark = text.find_first_of("T ");
+    const Result<core::CivilDate> date = core::parseDate(text.substr(0, mark));
+    if (!date) {
+        return Error{"--at: " + date.error().message};
+    }
+    request.atDate = date.value();
+    if (mark != std::string::npos) {
+        const Result<double> hour = core::parseClock(text.substr(mark + 1));
+        if (!hour) {
+            return Error{"--at: " + hour.error().message};
+        }
+        request.atHour = hour.value();
+    }
+    return {};
 }
 
 std::optional<double> momentAsked(const DashaRequest& request, double zone)

@@ -67,6 +67,9 @@ struct DashaRequest
                                                         const core::Settings& settings,
                                                         const timing::Dasha& dasha, double zone);
 
+/// Reads the value of --at, which may be "now".
+[[nodiscard]] core::Result<void> readAt(const std::string& text, DashaRequest& request);
+
 /// The Julian day (Universal Time) of --at; nothing when it was not typed.
 [[nodiscard]] std::optional<double> momentAsked(const DashaRequest& request, double zone);
 

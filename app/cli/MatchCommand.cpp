@@ -5,11 +5,12 @@
 #include "app/cli/Console.h"
 #include "app/cli/JsonValues.h"
 #include "app/cli/SharedOptions.h"
-#include "app/cli/TextTable.h"
-#include "app/cli/TextValues.h"
+#include "app/present/MatchTables.h"
+#include "app/present/TableWriters.h"
+#include "app/present/TextTable.h"
+#include "app/present/TextValues.h"
 #include "core/FileText.h"
 #include "core/Names.h"
-#include "core/NumberText.h"
 #include "core/TextForms.h"
 
 #include <nlohmann/json.hpp>
@@ -19,8 +20,6 @@ namespace kestrav::cli
 
 namespace
 {
-
-using Align = TextTable::Align;
 
 constexpr std::array<OptionInfo, 1> kMatchOptions = {{
     {"--bride-first", "", "the first chart is the bride's and the second the groom's"},
@@ -59,42 +58,25 @@ std::wstring personText(const ComputedChart& computed)
     const core::Chart& chart = computed.chart;
     std::wstring text = chart.name;
     if (text.empty()) {
-        text = chart.hasMoment ? dateText(chart.time) : core::fromFileBytes(computed.positionsFile);
+        text = chart.hasMoment ? present::dateText(chart.time)
+                               : core::fromFileBytes(computed.positionsFile);
     }
     const double position = chart.nakshatraPosition[core::kMoon];
     return text + L", Moon " + core::FormatSignPosition(chart.longitude[core::kMoon]) + L", " +
-           std::wstring(core::nakshatraName(nakshatraOf(position))) + L" " +
-           std::to_wstring(padaOf(position));
-}
-
-std::wstring shortest(double points)
-{
-    return core::fromFileBytes(core::shortestNumber(points));
+           std::wstring(core::nakshatraName(present::nakshatraOf(position))) + L" " +
+           std::to_wstring(present::padaOf(position));
 }
 
 std::wstring matchText(const ComputedChart& groom, const ComputedChart& bride,
                        const analysis::Matching& matching)
 {
-    LabelledLines people;
+    present::LabelledLines people;
     people.add(L"Groom", personText(groom));
     people.add(L"Bride", personText(bride));
-    TextTable kutas({{L"Kuta"},
-                     {L"Points", Align::Right},
-                     {L"of", Align::Right},
-                     {L"Because", Align::Wrapped}});
-    for (const analysis::KutaScore& kuta : matching.kutas) {
-        kutas.add(
-            {std::wstring(kuta.name), shortest(kuta.points), shortest(kuta.maximum), kuta.why});
-    }
-    kutas.add({L"Total", shortest(matching.total), shortest(analysis::kFullKutas), L""});
-    std::wstring text = people.text() + L"\n" + kutas.text() + L"\nDoshas\n";
-    for (const analysis::Dosha& dosha : matching.doshas) {
-        const std::wstring_view state =
-            !dosha.holds ? L"no" : (dosha.cancelled ? L"yes, but cancelled" : L"yes");
-        text += wrapped(std::wstring(dosha.name) + L": " + std::wstring(state) + L". " + dosha.why,
-                        L"- ");
-    }
-    return text;
+    present::Table kutas = present::kutasTable(matching);
+    kutas.title.clear();
+    return people.text() + L"\n" + present::tableText(kutas) + L"\n" +
+           present::tableText(present::doshasTable(matching));
 }
 
 } // namespace

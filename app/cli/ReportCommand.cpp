@@ -13,6 +13,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <span>
 
 namespace kestrav::cli
@@ -23,6 +24,7 @@ namespace
 
 constexpr int kMostLevels = 5;
 constexpr int kMostLines = 10000;
+constexpr int kMostDays = 36525;
 
 using present::Document;
 
@@ -67,12 +69,39 @@ ExitCode write(const std::string& bytes, const Arguments& arguments, Console& co
     return ExitCode::Done;
 }
 
+// Tables alone, without the head of a report where a form has none.
+std::string formattedTables(const Document& document, WrittenForm form, const CommandInfo& info)
+{
+    if (form == WrittenForm::Text) {
+        std::wstring text;
+        for (const present::Block& block : document.blocks) {
+            text +=
+                (text.empty() ? L"" : L"\n") + present::tableText(std::get<present::Table>(block));
+        }
+        return core::toUtf8(text);
+    }
+    if (form == WrittenForm::Json) {
+        Json object = commandObject(info.name);
+        object["tables"] = Json::array();
+        for (const present::Block& block : document.blocks) {
+            object["tables"].push_back(
+                Json::parse(present::tableJson(std::get<present::Table>(block))));
+        }
+        return jsonText(object);
+    }
+    if (form == WrittenForm::Csv && document.blocks.size() == 1) {
+        // Programs that read the rows expect the headings in the first line.
+        return present::tableCsv(std::get<present::Table>(document.blocks.front()));
+    }
+    return formatted(document, form, info);
+}
+
 // A list of names and meanings in the form of the other tables.
 ExitCode printList(const Document& list, const Arguments& arguments, const CommandInfo& info,
                    Console& console)
 {
     const core::Result<WrittenForm> form = writtenForm(arguments);
-    return form ? write(formatted(list, form.value(), info), arguments, console)
+    return form ? write(formattedTables(list, form.value(), info), arguments, console)
                 : usageError(form.error(), console);
 }
 
@@ -105,12 +134,13 @@ tableSource(const Arguments& arguments, const ComputedChart& computed, const ast
     const auto varga = chosenVarga(arguments);
     const auto levels = integerOption(arguments, "--levels", 1, kMostLevels, 2);
     const auto lines = integerOption(arguments, "--lines", 1, kMostLines, 0);
+    const auto days = integerOption(arguments, "--days", 1, kMostDays, 0);
     const auto letter = integerOption(arguments, "--name-letter", 1, 5, 0);
     const auto moment = momentOption(arguments, computed.chart.zone);
     if (!varga) {
         return varga.error();
     }
-    for (const auto* number : {&levels, &lines, &letter}) {
+    for (const auto* number : {&levels, &lines, &letter, &days}) {
         if (!*number) {
             return number->error();
         }
@@ -124,6 +154,7 @@ tableSource(const Arguments& arguments, const ComputedChart& computed, const ast
     source.lines = lines.value();
     source.nameLetter = letter.value();
     source.moment = moment.value();
+    source.days = days.value();
     return source;
 }
 
@@ -149,29 +180,6 @@ core::Result<std::vector<present::Block>> namedTables(const Arguments& arguments
     return blocks;
 }
 
-// Tables alone, without the head of a report where a form has none.
-std::string formattedTables(const Document& document, WrittenForm form, const CommandInfo& info)
-{
-    if (form == WrittenForm::Text) {
-        std::wstring text;
-        for (const present::Block& block : document.blocks) {
-            text +=
-                (text.empty() ? L"" : L"\n") + present::tableText(std::get<present::Table>(block));
-        }
-        return core::toUtf8(text);
-    }
-    if (form == WrittenForm::Json) {
-        Json object = commandObject(info.name);
-        object["tables"] = Json::array();
-        for (const present::Block& block : document.blocks) {
-            object["tables"].push_back(
-                Json::parse(present::tableJson(std::get<present::Table>(block))));
-        }
-        return jsonText(object);
-    }
-    return formatted(document, form, info);
-}
-
 core::Result<yoga::YogaLibrary> yogaLibrary(const Arguments& arguments)
 {
     yoga::YogaLibrary library;
@@ -191,14 +199,21 @@ core::Result<yoga::YogaLibrary> yogaLibrary(const Arguments& arguments)
     return library;
 }
 
+// Whether an option names the second chart.
+bool hasSecondChart(const Arguments& arguments)
+{
+    return std::any_of(kSecondChartOptions.begin(), kSecondChartOptions.end(),
+                       [&](const OptionInfo& option) { return arguments.has(option.name); });
+}
+
 } // namespace
 
 TableCommand::TableCommand()
     : Command({"table",
                "Write tables of a chart as text, comma-separated values, HTML, RTF or JSON",
                {{"TABLE", "names of tables; --list shows them", false, true}},
-               {kBirthOptions, kPositionsOption, kTableOptions, kVargaOption, kFormatOptions,
-                kSetOptions, kCommonOptions}})
+               {kBirthOptions, kPositionsOption, kSecondChartOptions, kTableOptions, kVargaOption,
+                kFormatOptions, kSetOptions, kCommonOptions}})
 {}
 
 ExitCode TableCommand::run(const Arguments& arguments, Console& console) const
@@ -214,6 +229,19 @@ ExitCode TableCommand::run(const Arguments& arguments, Console& console) const
     if (!birth) {
         return usageError(birth.error(), console);
     }
+    std::optional<BirthData> secondBirth;
+    if (hasSecondChart(arguments)) {
+        core::Result<BirthData> read = readBirthData(arguments, PlaceNeed::Optional, kSecondChart);
+        if (!read) {
+            return usageError(read.error(), console);
+        }
+        secondBirth = std::move(read.value());
+    }
+    const core::Result<yoga::YogaLibrary> library = yogaLibrary(arguments);
+    if (!library) {
+        console.error(library.error().text());
+        return ExitCode::Failed;
+    }
     ExitCode code = ExitCode::Done;
     const std::optional<CallData> call = openCall(arguments, console, code);
     if (!call) {
@@ -223,10 +251,24 @@ ExitCode TableCommand::run(const Arguments& arguments, Console& console) const
     if (!computed) {
         return code;
     }
-    const core::Result<present::TableSource> source =
+    std::optional<ComputedChart> second;
+    if (secondBirth) {
+        second = computeChart(*call, *secondBirth, console, code);
+        if (!second) {
+            return code;
+        }
+    }
+    core::Result<present::TableSource> source =
         tableSource(arguments, *computed, call->data.series);
     if (!source) {
         return usageError(source.error(), console);
+    }
+    source.value().yogas = library.value().files().empty() ? nullptr : &library.value();
+    if (second) {
+        const bool brideFirst = arguments.has("--bride-first");
+        source.value().groom = brideFirst ? &second->chart : &computed->chart;
+        source.value().bride = brideFirst ? &computed->chart : &second->chart;
+        source.value().matchingTables = &call->data.matching;
     }
     auto blocks = namedTables(arguments, source.value());
     if (!blocks) {

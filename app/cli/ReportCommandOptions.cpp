@@ -1,6 +1,5 @@
 #include "app/cli/ReportCommandOptions.h"
 
-#include "app/cli/Clock.h"
 #include "app/cli/DashaCommandOptions.h"
 #include "app/present/DefinitionLines.h"
 #include "core/Files.h"
@@ -17,9 +16,6 @@ namespace
 
 constexpr std::array<std::string_view, 5> kForms = {"text", "csv", "html", "rtf", "json"};
 constexpr char kUsualReport[] = "one-page";
-
-constexpr double kUnixEpoch = 2440587.5;
-constexpr double kSecondsPerDay = 86400.0;
 
 core::Result<present::ReportDefinition> readReport(const std::filesystem::path& path)
 {
@@ -82,15 +78,12 @@ core::Result<present::DiagramStyle> styleOption(const Arguments& arguments)
 
 core::Result<double> momentOption(const Arguments& arguments, double zone)
 {
-    const core::Result<DashaRequest> request = readDashaRequest(arguments);
-    if (!request) {
-        return request.error();
+    DashaRequest request;
+    const core::Result<void> read = readAt(arguments.value("--at").value_or("now"), request);
+    if (!read) {
+        return read.error();
     }
-    if (const std::optional<double> moment = momentAsked(request.value(), zone)) {
-        return *moment;
-    }
-    const core::Result<double> now = presentMoment();
-    return now ? core::Result<double>(now.value() / kSecondsPerDay + kUnixEpoch) : now.error();
+    return *momentAsked(request, zone);
 }
 
 std::vector<std::filesystem::path> deliveredReports()

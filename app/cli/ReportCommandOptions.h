@@ -20,14 +20,17 @@ inline constexpr std::array<OptionInfo, 2> kFormatOptions = {{
     {"--output", "FILE", "write to a file, of which an earlier one is kept as .BAK"},
 }};
 
-inline constexpr std::array<OptionInfo, 5> kTableOptions = {{
+inline constexpr std::array<OptionInfo, 8> kTableOptions = {{
     {"--list", "", "list the tables; needs no chart"},
     {"--levels", "N", "levels of dasha periods, 1 to 5; 2 when not given"},
     {"--lines", "N", "most dasha periods, 1 to 10000; 1000 when not given"},
     {"--name-letter", "N", "group 1 to 5 of the first sound of the name, for the Shayanadi states"},
     {"--at", "DATE[THH:MM]",
-     "moment at which periods run, on the clock of the birth zone; now "
+     "moment at which periods run and tables of days begin, on the clock of the birth zone; now "
      "when not given"},
+    {"--days", "N", "length of tables of days, 1 to 36525; as the list says when not given"},
+    {"--yogas", "FILE", "a yoga file to use instead of the delivered ones; may be repeated", true},
+    {"--bride-first", "", "the first chart is the bride's and the second the groom's"},
 }};
 
 inline constexpr std::array<OptionInfo, 6> kReportOptions = {{

@@ -4,6 +4,7 @@
 #include "app/present/VargaTables.h"
 #include "core/PointNames.h"
 
+#include <cmath>
 #include <numeric>
 
 namespace kestrav::present
@@ -84,6 +85,27 @@ Table pindaTable(const analysis::Ashtakavarga& ashtakavarga)
         const analysis::Pinda& pinda = at(ashtakavarga.pinda, receiver);
         table.add({pointCell(receiver), integerCell(pinda.rashi), integerCell(pinda.graha),
                    integerCell(pinda.total())});
+    }
+    return table;
+}
+
+Table kakshyasTable(const core::Chart& chart)
+{
+    Table table = {"kakshyas",
+                   L"Kakshyas",
+                   {{L"Planet"}, {L"Sign"}, {L"Kakshya", Align::Right}, {L"Lord"}, {L"Bindu"}}};
+    for (int planet = core::kSun; planet <= core::kSaturn; ++planet) {
+        if (!chart.computed(planet)) {
+            continue;
+        }
+        const int sign = at(chart.rashi, planet);
+        const double longitude = at(chart.longitude, planet);
+        const analysis::Kakshya kakshya = analysis::kakshyaOf(std::fmod(longitude, 30.0));
+        table.add({pointCell(planet),
+                   {std::wstring(core::signNameLong(sign)), double(sign), {Subject::Sign, sign}},
+                   integerCell(kakshya.part + 1),
+                   pointCell(kakshya.lord),
+                   analysis::kakshyaBindu(chart, planet, longitude) ? L"yes" : L"no"});
     }
     return table;
 }

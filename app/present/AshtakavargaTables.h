@@ -15,4 +15,7 @@ namespace kestrav::present
 [[nodiscard]] Table ekadhipatyaTable(const analysis::Ashtakavarga& ashtakavarga);
 [[nodiscard]] Table pindaTable(const analysis::Ashtakavarga& ashtakavarga);
 
+/// The kakshya in which each planet stands, its lord, and whether the lord gives a bindu there.
+[[nodiscard]] Table kakshyasTable(const core::Chart& chart);
+
 } // namespace kestrav::present

@@ -10,16 +10,20 @@ namespace kestrav::present
 namespace
 {
 
-std::wstring plainDateText(const core::PlainDate& date)
+// Months and days never reach these factors, so the dates stay in their order.
+constexpr double kYearOrder = 372.0;
+constexpr double kMonthOrder = 31.0;
+
+} // namespace
+
+Cell plainDateCell(const core::PlainDate& date)
 {
     core::DateTimeRecord record;
     record.year = date.year;
     record.month = date.month;
     record.day = date.day;
-    return dateText(record);
+    return {dateText(record), date.year * kYearOrder + date.month * kMonthOrder + date.day};
 }
-
-} // namespace
 
 Table eventsTable(const ComputedChart& computed)
 {
@@ -28,10 +32,8 @@ Table eventsTable(const ComputedChart& computed)
         if (event.name.empty()) {
             continue;
         }
-        const core::PlainDate& date = event.date;
-        const double order = double(date.year) * 372.0 + date.month * 31.0 + date.day;
         table.add(
-            {Cell(plainDateText(date), order),
+            {plainDateCell(event.date),
              event.usable()
                  ? Cell(clockSeconds(event.hours, computed.settings.twelveHourClock), event.hours)
                  : Cell(),

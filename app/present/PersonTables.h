@@ -13,4 +13,7 @@ namespace kestrav::present
 /// The fields of the contact that are filled in.
 [[nodiscard]] Table contactTable(const ComputedChart& computed);
 
+/// A date without a time of day.
+[[nodiscard]] Cell plainDateCell(const core::PlainDate& date);
+
 } // namespace kestrav::present

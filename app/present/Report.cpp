@@ -49,10 +49,17 @@ std::vector<std::wstring> reportHead(const ComputedChart& computed)
         if (computed.hasPlace) {
             head.push_back(placeLine(chart));
         }
-        head.push_back(L"Ayanamsa " +
-                       core::fromFileBytes(astro::selectedRow(computed.settings).nameText()) +
-                       L"  " + core::FormatDMS(chart.ayanamsa, 1));
+        if (!computed.hasPlace) {
+            head.emplace_back(L"No place: no ascendant, no houses and no sunrise");
+        }
+    } else {
+        head.push_back(L"Positions of " + core::fromFileBytes(computed.positionsFile) +
+                       L", without a moment");
     }
+    head.push_back(L"Ayanamsa " +
+                   core::fromFileBytes(astro::selectedRow(computed.settings).nameText()) + L"  " +
+                   (chart.hasMoment ? core::FormatDMS(chart.ayanamsa, 1)
+                                    : std::wstring(L"not computed without a moment")));
     std::wstring houses =
         L"Houses " + (chart.houseSystem >= 0 ? choiceText("houseSystem", chart.houseSystem)
                                              : std::wstring(L"not computed"));

@@ -2,19 +2,12 @@
 
 #include "analysis/Ashtakavarga.h"
 #include "app/present/Diagram.h"
-#include "app/present/TableCatalogue.h"
+#include "app/present/PanchangaTables.h"
+#include "app/present/TablesOfDays.h"
 #include "app/present/TerminalDrawing.h"
-#include "app/present/TransitTables.h"
 #include "core/DisplayFlags.h"
 #include "core/FileText.h"
-#include "core/Points.h"
-#include "timing/Panchanga.h"
-#include "timing/PanchangaReport.h"
-#include "timing/SiderealSky.h"
-#include "timing/TransitListing.h"
-#include "yoga/ExplainRule.h"
 
-#include <cmath>
 #include <string_view>
 
 namespace kestrav::present
@@ -75,11 +68,11 @@ public:
             break;
         case ReportSection::Yogas:
             heading(L"Yogas");
-            yogas();
+            tables({"yogas"});
             break;
         case ReportSection::Transits:
             heading(L"Transits");
-            transits();
+            tables({"transits"});
             break;
         case ReportSection::Notes:
             heading(L"Notes");
@@ -104,6 +97,7 @@ private:
 
     void heading(std::wstring text)
     {
+        heading_ = text;
         blocks_.emplace_back(Heading{std::move(text)});
     }
 
@@ -112,22 +106,41 @@ private:
         blocks_.emplace_back(Paragraph{std::move(text), false});
     }
 
-    void tables(std::initializer_list<std::string_view> names)
+    [[nodiscard]] TableSource tableSource() const
     {
         TableSource source{computed_, source_.series};
         source.varga = part_.vargas.front();
         source.levels = part_.levels;
         source.lines = part_.lines;
         source.moment = source_.moment;
+        source.days = part_.days;
+        source.yogas = source_.yogas;
         source.nameLetter = chart().identity.sound.empty() ? 0 : chart().identity.soundGroup;
+        return source;
+    }
+
+    // A table that stands alone says when it is empty; among others it is left out.
+    void add(Table table, bool alone)
+    {
+        if (table.title == heading_) {
+            table.title.clear();
+        }
+        if (!table.rows.empty() || !table.notes.empty()) {
+            blocks_.emplace_back(std::move(table));
+        } else if (alone) {
+            say(L"None.");
+        }
+    }
+
+    void tables(std::initializer_list<std::string_view> names)
+    {
+        const TableSource source = tableSource();
         for (const std::string_view name : names) {
             core::Result<Table> table = findTable(name)->make(source);
             if (!table) {
                 say(L"Not computed: " + core::fromFileBytes(table.error().text()));
-            } else if (!table.value().rows.empty() || !table.value().notes.empty()) {
-                blocks_.emplace_back(std::move(table.value()));
-            } else if (names.size() == 1) {
-                say(L"None.");
+            } else {
+                add(std::move(table.value()), names.size() == 1);
             }
         }
     }
@@ -152,66 +165,15 @@ private:
 
     void panchanga()
     {
-        if (!chart().hasMoment || !computed_.hasPlace) {
-            say(L"Not computed: it needs the moment and the place.");
+        const core::Result<timing::PanchangaDay> day = panchangaDay(tableSource());
+        if (!day) {
+            say(L"Not computed: " + core::fromFileBytes(day.error().text()));
             return;
         }
-        timing::Panchanga maker(source_.series, computed_.settings);
-        blocks_.emplace_back(Paragraph{
-            timing::panchangaReport(maker.dayOf(chart()), computed_.settings.twelveHourClock),
-            true});
-    }
-
-    void yogas()
-    {
-        if (source_.yogas == nullptr) {
-            say(L"No yoga file is loaded.");
-            return;
+        for (const auto make : {panchangaTable, tithisTable, nakshatrasTable, nityaYogasTable,
+                                karanasTable, kalamsTable, eighthsTable, horasTable}) {
+            add(make(day.value(), computed_.settings.twelveHourClock), false);
         }
-        yoga::Subject subject(computed_.settings, &source_.series);
-        subject.setChart(chart());
-        subject.setMoment(source_.moment);
-        const std::vector<yoga::YogaPlace> holding = source_.yogas->holding(subject);
-        Table table = {"yogas",
-                       std::to_wstring(holding.size()) + L" of " +
-                           std::to_wstring(source_.yogas->all().size()) + L" yogas hold",
-                       {{L"Yoga"}, {L"Why", Align::Wrapped}}};
-        for (const yoga::YogaPlace& place : holding) {
-            const std::wstring title = core::fromFileBytes(source_.yogas->yoga(place).title);
-            std::wstring why;
-            for (const yoga::ConditionOutcome& outcome :
-                 yoga::explainRule(*source_.yogas->rule(place), subject).conditions) {
-                if (outcome.tested && outcome.truth) {
-                    why += (why.empty() ? L"" : L"; ") + outcome.reason;
-                }
-            }
-            table.add({title, std::move(why)});
-        }
-        blocks_.emplace_back(std::move(table));
-    }
-
-    void transits()
-    {
-        const double clock = chart().hasMoment ? chart().zone : 0.0;
-        timing::SiderealSky sky(source_.series, computed_.settings, clock);
-        timing::TransitOptions options;
-        for (const int body : core::kBodies) {
-            options.bodies.push_back(body);
-            options.targets.push_back(body);
-        }
-        if (chart().computed(core::kAscendant)) {
-            options.targets.insert(options.targets.begin(), core::kAscendant);
-        }
-        // The Moon would fill the list with an event every few hours.
-        std::erase(options.bodies, int(core::kMoon));
-        timing::TransitDays days;
-        days.first = std::floor(source_.moment + clock / 24.0 - 0.5) + 0.5;
-        days.last = days.first + part_.days - 1;
-        const timing::TransitLineStyle style{timing::TransitMode::Native, options.orbDegrees,
-                                             computed_.settings.twelveHourClock};
-        blocks_.emplace_back(
-            transitTable(timing::listTransits(sky, &chart(), options, days, clock), style));
-        say(L"The Moon's transits are left out.");
     }
 
     void notes()
@@ -229,6 +191,7 @@ private:
     const ReportPart& part_;
     const ComputedChart& computed_;
     std::vector<Block> blocks_;
+    std::wstring heading_;
 };
 
 } // namespace

@@ -267,6 +267,16 @@ Table shadbalaTotalsTable(const Strengths& strengths)
     return table;
 }
 
+Table rashmisTable(const Strengths& strengths)
+{
+    Table table = {"rashmis", L"Rashmis", {{L"Planet"}, {L"Rays", Align::Right}}};
+    for (int planet = core::kSun; planet <= core::kSaturn; ++planet) {
+        table.add({pointCell(planet), numberCell(at(strengths.rashmis.planets, planet), 2)});
+    }
+    table.add({L"All", numberCell(strengths.rashmis.total, 2)});
+    return table;
+}
+
 Table bhavaBalaTable(const Strengths& strengths)
 {
     Table table = {"bhava-bala",

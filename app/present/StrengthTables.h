@@ -35,6 +35,9 @@ struct Strengths
 /// Total, requirement, ratio and the two phalas only.
 [[nodiscard]] Table shadbalaTotalsTable(const Strengths& strengths);
 
+/// The rays of the planets and their sum.
+[[nodiscard]] Table rashmisTable(const Strengths& strengths);
+
 [[nodiscard]] Table bhavaBalaTable(const Strengths& strengths);
 [[nodiscard]] Table avasthasTable(const Strengths& strengths);
 [[nodiscard]] Table warsTable(const Strengths& strengths);

@@ -84,6 +84,12 @@ struct Table
 
     /// Whether no column has a heading, as in a list of labels with their values.
     [[nodiscard]] bool withoutHeadings() const;
+
+    /// Whether there are notes, but no rows: then headings over nothing would only disturb.
+    [[nodiscard]] bool explainsItsEmptiness() const
+    {
+        return rows.empty() && !notes.empty();
+    }
 };
 
 /// A table of two columns without headings.

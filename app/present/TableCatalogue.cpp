@@ -5,10 +5,15 @@
 #include "app/present/ChartTables.h"
 #include "app/present/DashaTables.h"
 #include "app/present/DignityTables.h"
+#include "app/present/MatchTables.h"
+#include "app/present/PanchangaTables.h"
 #include "app/present/PersonTables.h"
 #include "app/present/SpecialPointTables.h"
 #include "app/present/StrengthTables.h"
+#include "app/present/TablesOfDays.h"
 #include "app/present/VargaTables.h"
+#include "app/present/VargaWindowTable.h"
+#include "app/present/YogaTables.h"
 #include "timing/ConditionalDashas.h"
 #include "timing/DashaQuery.h"
 
@@ -122,7 +127,45 @@ Made conditionalDashas(const TableSource& source)
     return conditionalDashasTable(systems);
 }
 
-const std::array<TableInfo, 35> kTables = {{
+Made vargaWindowsOfChart(const TableSource& source)
+{
+    if (!source.computed.chart.computed(core::kAscendant) || !source.computed.hasPlace) {
+        return core::Error{"the windows need an ascendant and the place"};
+    }
+    return vargaWindowTable(source.computed,
+                            timing::vargaWindows(source.computed.chart, source.computed.settings));
+}
+
+template <Table (*Make)(const timing::PanchangaDay&, bool twelveHour)>
+Made panchangaPart(const TableSource& source)
+{
+    const core::Result<timing::PanchangaDay> day = panchangaDay(source);
+    return day ? Made(Make(day.value(), source.computed.settings.twelveHourClock)) : day.error();
+}
+
+template <Table (*Make)(const analysis::Matching&)>
+Made matchingTable(const TableSource& source)
+{
+    if (source.groom == nullptr || source.bride == nullptr || source.matchingTables == nullptr) {
+        return core::Error{"needs a second chart"};
+    }
+    const core::Result<analysis::Matching> matching = analysis::matchCharts(
+        *source.groom, *source.bride, *source.matchingTables, source.computed.settings);
+    return matching ? Made(Make(matching.value())) : matching.error();
+}
+
+Made yogasOfChart(const TableSource& source)
+{
+    if (source.yogas == nullptr) {
+        return core::Error{"no yoga file is loaded"};
+    }
+    yoga::Subject subject(source.computed.settings, &source.series);
+    subject.setChart(source.computed.chart);
+    subject.setMoment(source.moment);
+    return yogasTable(*source.yogas, subject);
+}
+
+const std::array<TableInfo, 62> kTables = {{
     {"birth-data", L"name, place, date, time and coordinates", chartTable<birthTable>},
     {"time", L"Universal Time, Delta T, Julian day, ayanamsa, sidereal time",
      chartTable<timeTable>},
@@ -140,6 +183,12 @@ const std::array<TableInfo, 35> kTables = {{
     {"sahams", L"all sahams", chartTable<sahamsTable>},
     {"varga-signs", L"signs in all divisional charts", mainVargaSigns},
     {"varga", L"one divisional chart", vargaOfSource},
+    {"varga-list", L"the divisional charts with their meanings",
+     [](const TableSource& /*source*/) -> Made {
+         return vargaListTable();
+     }},
+    {"varga-windows", L"from when to when the ascendants of the divisional charts hold",
+     vargaWindowsOfChart},
     {"vimshopaka", L"strength from the divisional charts", chartTable<vimshopakaTable>},
     {"planets", L"dignity, combustion and functional nature", chartTable<planetsTable>},
     {"dignities", L"dignities in the divisional charts", chartTable<dignitiesTable>},
@@ -151,17 +200,50 @@ const std::array<TableInfo, 35> kTables = {{
      chartTable<compoundRelationshipsTable>},
     {"shadbala", L"shadbala with every part", strengthTable<shadbalaTable>},
     {"shadbala-totals", L"totals of shadbala", strengthTable<shadbalaTotalsTable>},
+    {"rashmis", L"rays of the planets", strengthTable<rashmisTable>},
     {"bhava-bala", L"strength of the houses", strengthTable<bhavaBalaTable>},
     {"avasthas", L"states of the planets", strengthTable<avasthasTable>},
     {"planetary-war", L"wars and their winners", strengthTable<warsTable>},
     {"aspects", L"aspects of the planets on each other", strengthTable<bodyAspectsTable>},
     {"house-aspects", L"aspects of the planets on the houses", strengthTable<houseAspectsTable>},
     {"ashtakavarga", L"bindus with their sums", binduTable<ashtakavargaTable>},
+    {"trikona", L"bindus after the trikona reduction", binduTable<trikonaTable>},
+    {"ekadhipatya", L"bindus after both reductions", binduTable<ekadhipatyaTable>},
     {"pinda", L"pindas after the reductions", binduTable<pindaTable>},
+    {"kakshyas", L"kakshyas of the planets with their bindus",
+     [](const TableSource& source) -> Made {
+         return kakshyasTable(source.computed.chart);
+     }},
     {"dasha", L"the chosen dasha and the balance at birth", dashaHead},
     {"dashas", L"periods of the chosen dasha", dashaList},
     {"running-dashas", L"periods that run at the moment", runningDashas},
     {"conditional-dashas", L"conditional dashas that apply", conditionalDashas},
+    {"dasha-systems", L"all dashas with their cycles",
+     [](const TableSource& /*source*/) -> Made {
+         return dashaSystemsTable();
+     }},
+    {"panchanga", L"Sun, Moon, month, season and years of the day of birth",
+     panchangaPart<panchangaTable>},
+    {"tithis", L"tithis of that day", panchangaPart<tithisTable>},
+    {"nakshatras", L"nakshatras of the Moon on that day", panchangaPart<nakshatrasTable>},
+    {"nitya-yogas", L"yogas of Sun and Moon on that day", panchangaPart<nityaYogasTable>},
+    {"karanas", L"karanas of that day", panchangaPart<karanasTable>},
+    {"horas", L"horas of that day and its night", panchangaPart<horasTable>},
+    {"choghadia", L"choghadia of that day and its night", panchangaPart<choghadiaTable>},
+    {"kala-velas", L"kala velas of that day and its night", panchangaPart<kalaVelasTable>},
+    {"kalams", L"Rahu kalam, Abhijit, varjyam and the like", panchangaPart<kalamsTable>},
+    {"yogas", L"yogas that hold, with reasons", yogasOfChart},
+    {"transits", L"transits over the chart; 30 days", transitsOfDays},
+    {"transit-kakshyas", L"transiting planets in kakshyas; 30 days", transitKakshyasOfDays},
+    {"sade-sati", L"Saturn around the birth Moon; 30 years", sadeSatiOfDays},
+    {"ephemeris", L"positions from day to day; 30 days", ephemerisOfDays},
+    {"ephemeris-events", L"ingresses and stations; 366 days", ephemerisEventsOfDays},
+    {"moon-phases", L"phases of the Moon; 366 days", moonPhasesOfDays},
+    {"eclipses", L"eclipses and what the place sees of them; ten years", eclipsesOfDays},
+    {"eclipsed-points", L"points of the chart that eclipses fall on; ten years",
+     eclipsedPointsOfDays},
+    {"kutas", L"points of a comparison with a second chart", matchingTable<kutasTable>},
+    {"doshas", L"doshas of that comparison", matchingTable<doshasTable>},
     {"events", L"the events of the native's life", chartTable<eventsTable>},
     {"contact", L"where the native can be reached", chartTable<contactTable>},
 }};

@@ -3,8 +3,9 @@
 
 #include "app/present/ComputedChart.h"
 #include "app/present/Table.h"
-#include "astro/Series.h"
+#include "astro/DataFile.h"
 #include "core/Result.h"
+#include "yoga/YogaLibrary.h"
 
 #include <functional>
 #include <span>
@@ -22,7 +23,12 @@ struct TableSource
     int nameLetter = 0;  ///< group 1 to 5 of the first sound of the name; 0 when not known
     int levels = 2;      ///< of dasha lists, 1 to 5
     long long lines = 0; ///< most periods of a dasha list; 0 for as many as fit in a life
-    double moment = 0.0; ///< Julian day (Universal Time) at which running periods are marked
+    double moment = 0.0; ///< Julian day (Universal Time) of running periods and of the first day
+    int days = 0;        ///< of tables of days; 0 for the usual number of each
+    const yoga::YogaLibrary* yogas = nullptr;              ///< none when no yoga file is loaded
+    const core::Chart* bride = nullptr;                    ///< of the comparison
+    const core::Chart* groom = nullptr;                    ///< of the comparison
+    const astro::MatchingTables* matchingTables = nullptr; ///< needed with the two
 };
 
 struct TableInfo

@@ -17,9 +17,7 @@ std::string element(const char* name, const Column& column, const std::wstring& 
     return tag + ">" + htmlText(text) + "</" + name + ">";
 }
 
-} // namespace
-
-std::string tableHtml(const Table& table)
+std::string gridHtml(const Table& table)
 {
     std::string html = "<table>\n";
     if (!table.title.empty()) {
@@ -44,6 +42,19 @@ std::string tableHtml(const Table& table)
         html += "</tr>\n";
     }
     html += "</tbody>\n</table>\n";
+    return html;
+}
+
+} // namespace
+
+std::string tableHtml(const Table& table)
+{
+    std::string html;
+    if (table.explainsItsEmptiness()) {
+        html = table.title.empty() ? "" : "<p><b>" + htmlText(table.title) + "</b></p>\n";
+    } else {
+        html = gridHtml(table);
+    }
     for (const std::wstring& note : table.notes) {
         html += "<p class=\"note\">" + htmlText(note) + "</p>\n";
     }

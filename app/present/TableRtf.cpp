@@ -70,7 +70,7 @@ std::string tableRtf(const Table& table, int width)
     }
     const std::vector<int> ends = columnEnds(table, width);
     const bool labels = table.withoutHeadings();
-    if (!labels) {
+    if (!labels && !table.explainsItsEmptiness()) {
         rtf += rowStart(ends, true);
         for (const Column& column : table.columns) {
             rtf += cellRtf(column, column.heading, true);

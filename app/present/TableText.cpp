@@ -53,8 +53,10 @@ std::wstring columnText(const Table& table)
 std::wstring tableText(const Table& table)
 {
     std::wstring text = table.title.empty() ? L"" : table.title + L"\n";
-    text += table.withoutHeadings() && table.columns.size() == 2 ? labelledText(table)
-                                                                 : columnText(table);
+    if (!table.explainsItsEmptiness()) {
+        const bool labels = table.withoutHeadings() && table.columns.size() == 2;
+        text += labels ? labelledText(table) : columnText(table);
+    }
     for (const std::wstring& note : table.notes) {
         text += wrapped(note, L"");
     }

@@ -16,7 +16,8 @@ namespace kestrav::present
 /// spreadsheet would take for a formula are held back by an apostrophe; numbers are not.
 [[nodiscard]] std::string tableCsv(const Table& table);
 
-/// A `table` element with the title as its caption, in UTF-8, and the notes as paragraphs below.
+/// A `table` element with the title as its caption, in UTF-8, and the notes as paragraphs below;
+/// the title and the notes alone where there are no rows but notes that say why.
 [[nodiscard]] std::string tableHtml(const Table& table);
 
 /// The rows as a table of Rich Text Format, without the head of a document. `width` is the room

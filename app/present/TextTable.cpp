@@ -20,11 +20,19 @@ void endLine(std::wstring& text)
     text += L'\n';
 }
 
+// Tabs and line ends within a text would break the columns.
+void makeOneLine(std::wstring& text)
+{
+    std::replace_if(
+        text.begin(), text.end(), [](wchar_t character) { return character < L' '; }, L' ');
+}
+
 } // namespace
 
 void TextTable::add(std::vector<std::wstring> cells)
 {
     assert(cells.size() == columns_.size());
+    std::for_each(cells.begin(), cells.end(), makeOneLine);
     rows_.push_back(std::move(cells));
 }
 
@@ -68,6 +76,7 @@ std::wstring TextTable::text() const
 
 void LabelledLines::add(std::wstring label, std::wstring value)
 {
+    makeOneLine(value);
     lines_.emplace_back(std::move(label), std::move(value));
 }
 
