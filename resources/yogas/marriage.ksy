@@ -123,7 +123,7 @@
   <yg>
     <op>1</op>
     <tl>Venus and the lord of the seventh with Jupiter</tl>
-    <rl>Influences,,Jup,Ven\Influences,,Jup,L7\Is,!,L7,Jup</rl>
+    <rl>Influences,,Jup,Ven\Influences,,Jup,L7</rl>
     <in>Fair dealing keeps love; a partner of good character.</in>
     <cm>Traditional.</cm>
     <vs>Rasi</vs>

@@ -681,9 +681,9 @@
   <yg>
     <op>1</op>
     <tl>Neecha Bhanga of Mars</tl>
-    <rl>Dignity,,Mar,deb\(\InHouse,,D.Mar,ken\OR\InHouse,,D.Mar,Moo,ken\OR\InHouse,,X.Mar,ken\OR\InHouse,,X.Mar,Moo,ken\)</rl>
+    <rl>Dignity,,Mar,deb\(\InHouse,,D.Mar,ken\OR\InHouse,,X.Mar,ken\OR\InHouse,,X.Mar,Moo,ken\)</rl>
     <in>Weak courage becomes steady strength.</in>
-    <cm>Phaladeepika, chapter 7 (raja yogas).</cm>
+    <cm>Phaladeepika, chapter 7 (raja yogas). The Moon is counted from the ascendant only, since from itself it is always in a kendra.</cm>
     <vs>Rasi</vs>
     <ch>Neecha bhanga</ch>
   </yg>
@@ -699,9 +699,9 @@
   <yg>
     <op>1</op>
     <tl>Neecha Bhanga of Jupiter</tl>
-    <rl>Dignity,,Jup,deb\(\InHouse,,D.Jup,ken\OR\InHouse,,D.Jup,Moo,ken\OR\InHouse,,X.Jup,ken\OR\InHouse,,X.Jup,Moo,ken\)</rl>
+    <rl>Dignity,,Jup,deb\(\InHouse,,D.Jup,ken\OR\InHouse,,D.Jup,Moo,ken\OR\InHouse,,X.Jup,ken\)</rl>
     <in>Faith and counsel are found after errors.</in>
-    <cm>Phaladeepika, chapter 7 (raja yogas).</cm>
+    <cm>Phaladeepika, chapter 7 (raja yogas). The Moon is counted from the ascendant only, since from itself it is always in a kendra.</cm>
     <vs>Rasi</vs>
     <ch>Neecha bhanga</ch>
   </yg>

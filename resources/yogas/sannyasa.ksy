@@ -115,7 +115,7 @@
   <yg>
     <op>1</op>
     <tl>Four planets with the lord of 10 in a good house</tl>
-    <rl>Cluster,,pla,4,kentri\InHouse,,L10,kentri\With,,L10,min3.pla</rl>
+    <rl>InHouse,,L10,kentri\With,,L10,min3.pla</rl>
     <in>Action itself becomes the path; a life given to a cause.</in>
     <cm>Phaladeepika, chapter 27 (ascetic yogas).</cm>
     <vs>Rasi</vs>
