@@ -148,6 +148,7 @@ DisplayList layoutDiagram(const DiagramSubject& subject, DiagramStyle style,
                           const DiagramOptions& options, double size)
 {
     assert(size > 0.0 && subject.varga >= 0 && subject.varga < core::kVargaCount);
+    assert(options.firstSign >= 0 && options.firstSign <= 12);
     const core::DisplayFlagsOverride names(namesOf(options));
     const DiagramFrame frame = frameOf(subject, style, options, size);
     DisplayList list;
