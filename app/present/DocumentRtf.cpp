@@ -2,6 +2,7 @@
 #include "app/present/Markup.h"
 #include "app/present/TableWriters.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace kestrav::present
@@ -21,7 +22,8 @@ public:
 
     void operator()(const Heading& heading)
     {
-        *rtf_ += "\\pard\\keepn\\sb240\\sa80\\fs26{\\b " + rtfText(heading.text) + "}\\par\n";
+        *rtf_ += "\\pard\\keepn\\sb240\\sa80" + rtfSize(26) + "{\\b " + rtfText(heading.text) +
+                 "}\\par\n";
     }
 
     void operator()(const Paragraph& paragraph)
@@ -47,12 +49,15 @@ public:
     }
 
 private:
-    void addLines(std::wstring_view text, bool fixedPitch)
+    void addLines(std::wstring text, bool fixedPitch)
     {
-        while (!text.empty() && text.back() == L'\n') {
-            text.remove_suffix(1);
+        text.erase(text.find_last_not_of(L'\n') + 1);
+        if (fixedPitch) {
+            // Some word processors widen plain blanks, which tears columns and drawings apart.
+            std::replace(text.begin(), text.end(), L' ', L'\u00A0');
         }
-        *rtf_ += std::string("\\pard\\sa120\\ql") + (fixedPitch ? "\\f1\\fs14{" : "\\f0\\fs18{") +
+        *rtf_ += "\\pard\\sa120\\ql" +
+                 (fixedPitch ? "\\keep\\f1" + rtfSize(14) : "\\f0" + rtfSize(18)) + "{" +
                  rtfText(text) + "}\\f0\\par\n";
     }
 
@@ -77,9 +82,9 @@ std::string documentRtf(const Document& document, double widthMm, double heightM
                       rtfText(document.title) + "}}\n\\paperw" + std::to_string(width) +
                       "\\paperh" + std::to_string(twips(heightMm)) + "\\margl" + margin +
                       "\\margr" + margin + "\\margt" + margin + "\\margb" + margin + "\n";
-    rtf += "\\pard\\sa80\\fs32{\\b " + rtfText(document.title) + "}\\par\n";
+    rtf += "\\pard\\sa80" + rtfSize(32) + "{\\b " + rtfText(document.title) + "}\\par\n";
     for (const std::wstring& line : document.head) {
-        rtf += "\\pard\\fs18{" + rtfText(line) + "}\\par\n";
+        rtf += "\\pard" + rtfSize(18) + "{" + rtfText(line) + "}\\par\n";
     }
     RtfWriter writer(rtf, width - 2 * kMarginTwips);
     for (const Block& block : document.blocks) {

@@ -74,6 +74,9 @@ std::string rtfText(std::wstring_view text)
         case L'\t':
             escaped += "\\tab ";
             break;
+        case L'\u00A0':
+            escaped += "\\~";
+            break;
         default:
             if (character < L' ' || character == 0x7F) {
                 escaped += ' ';
@@ -85,6 +88,12 @@ std::string rtfText(std::wstring_view text)
         }
     }
     return escaped;
+}
+
+std::string rtfSize(int halfPoints)
+{
+    const std::string number = std::to_string(halfPoints);
+    return "\\fs" + number + "\\afs" + number + " ";
 }
 
 } // namespace kestrav::present

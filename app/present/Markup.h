@@ -16,4 +16,8 @@ namespace kestrav::present
 /// paragraph and tabs stay tabs.
 [[nodiscard]] std::string rtfText(std::wstring_view text);
 
+/// The words that set the size of text in half points, in scripts written from right to left or
+/// with joined letters, too, which have a size of their own.
+[[nodiscard]] std::string rtfSize(int halfPoints);
+
 } // namespace kestrav::present

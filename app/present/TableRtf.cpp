@@ -1,7 +1,10 @@
 #include "app/present/Markup.h"
 #include "app/present/TableWriters.h"
+#include "app/present/TextWidths.h"
 
 #include <algorithm>
+#include <array>
+#include <cmath>
 #include <numeric>
 
 namespace kestrav::present
@@ -10,36 +13,72 @@ namespace kestrav::present
 namespace
 {
 
-// Average advance of a character of the 8-point text of tables, and the room beside a text.
-constexpr int kCharacterTwips = 88;
-constexpr int kCellMarginTwips = 120;
-constexpr int kLongestCell = 60;
+// Sizes of the text in half points, of which the first that lets the table fit is taken, and the
+// room beside a text.
+constexpr std::array<int, 3> kSizes = {16, 14, 12};
+constexpr int kTwipsPerHalfPoint = 10;
+constexpr int kCellMarginTwips = 150;
 
-std::vector<int> naturalWidths(const Table& table)
+// What bold text needs more room than plain text, at most.
+constexpr double kBoldWidening = 1.15;
+
+// Room of each column for its widest text in one line.
+std::vector<int> naturalWidths(const Table& table, int size)
 {
     std::vector<int> widths;
+    const bool labels = table.withoutHeadings();
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
-        std::size_t longest = std::max<std::size_t>(table.columns[i].heading.size(), 1);
+        double widest = kBoldWidening * textWidth(table.columns[i].heading);
         for (const Row& row : table.rows) {
-            longest = std::max(longest, row[i].text.size());
+            const double bold = labels && i == 0 ? kBoldWidening : 1.0;
+            widest = std::max(widest, bold * textWidth(row[i].text));
         }
-        widths.push_back(std::min(int(longest), kLongestCell) * kCharacterTwips + kCellMarginTwips);
+        widths.push_back(int(std::ceil(widest * size * kTwipsPerHalfPoint)) + kCellMarginTwips);
     }
     return widths;
 }
 
-// Where each column ends. A table that is too wide is drawn together; its cells then break.
-std::vector<int> columnEnds(const Table& table, int width)
+// Makes the widest columns narrower, all of these alike, until the table fits. Their cells break.
+void drawTogether(std::vector<int>& widths, int width)
 {
-    std::vector<int> widths = naturalWidths(table);
-    const int natural = std::accumulate(widths.begin(), widths.end(), 0);
-    int end = 0;
-    for (int& column : widths) {
-        column = natural > width ? int(std::int64_t(column) * width / natural) : column;
-        end += column;
-        column = end;
+    std::vector<int> sorted = widths;
+    std::sort(sorted.begin(), sorted.end());
+    int room = width;
+    int left = int(sorted.size());
+    for (const int column : sorted) {
+        const int share = room / left;
+        if (column > share) {
+            std::for_each(widths.begin(), widths.end(),
+                          [share](int& each) { each = std::min(each, share); });
+            return;
+        }
+        room -= column;
+        --left;
     }
-    return widths;
+}
+
+struct Grid
+{
+    std::vector<int> ends; ///< where each column ends, in twips
+    int size = 0;          ///< of the text in half points
+    bool fits = false;     ///< without breaking a cell
+};
+
+// A table whose last column is meant to break keeps its size.
+Grid gridOf(const Table& table, int width)
+{
+    const bool wrapped = !table.columns.empty() && table.columns.back().align == Align::Wrapped;
+    Grid grid;
+    for (const int size : kSizes) {
+        grid = {naturalWidths(table, size), size, false};
+        grid.fits = std::accumulate(grid.ends.begin(), grid.ends.end(), 0) <= width;
+        if (grid.fits || wrapped) {
+            break;
+        }
+    }
+    drawTogether(grid.ends, width);
+    std::partial_sum(grid.ends.begin(), grid.ends.end(), grid.ends.begin());
+    return grid;
 }
 
 std::string rowStart(const std::vector<int>& ends, bool heading)
@@ -54,10 +93,14 @@ std::string rowStart(const std::vector<int>& ends, bool heading)
     return rtf + "\n";
 }
 
-std::string cellRtf(const Column& column, const std::wstring& text, bool bold)
+// Where cells need not break they do not, though some word processors widen blanks.
+std::string cellRtf(const Column& column, std::wstring text, const Grid& grid, bool bold)
 {
-    return std::string("\\pard\\intbl\\fs16") + (column.align == Align::Right ? "\\qr" : "\\ql") +
-           (bold ? "{\\b " : "{ ") + rtfText(text) + "}\\cell\n";
+    if (grid.fits) {
+        std::replace(text.begin(), text.end(), L' ', L'\u00A0');
+    }
+    return "\\pard\\intbl" + rtfSize(grid.size) + (column.align == Align::Right ? "\\qr" : "\\ql") +
+           (bold ? "{\\b " : "{") + rtfText(text) + "}\\cell\n";
 }
 
 } // namespace
@@ -66,25 +109,26 @@ std::string tableRtf(const Table& table, int width)
 {
     std::string rtf;
     if (!table.title.empty()) {
-        rtf += "\\pard\\keepn\\sb120\\sa40\\fs20{\\b " + rtfText(table.title) + "}\\par\n";
+        rtf += "\\pard\\keepn\\sb120\\sa40" + rtfSize(20) + "{\\b " + rtfText(table.title) +
+               "}\\par\n";
     }
-    const std::vector<int> ends = columnEnds(table, width);
+    const Grid grid = gridOf(table, width);
     const bool labels = table.withoutHeadings();
     if (!labels && !table.explainsItsEmptiness()) {
-        rtf += rowStart(ends, true);
+        rtf += rowStart(grid.ends, true);
         for (const Column& column : table.columns) {
-            rtf += cellRtf(column, column.heading, true);
+            rtf += cellRtf(column, column.heading, grid, true);
         }
         rtf += "\\row\n";
     }
     for (const Row& row : table.rows) {
-        rtf += rowStart(ends, false);
+        rtf += rowStart(grid.ends, false);
         for (std::size_t i = 0; i < row.size(); ++i) {
-            rtf += cellRtf(table.columns[i], row[i].text, labels && i == 0);
+            rtf += cellRtf(table.columns[i], row[i].text, grid, labels && i == 0);
         }
         rtf += "\\row\n";
     }
-    rtf += "\\pard\\sb60\\fs16\\ql\n";
+    rtf += "\\pard\\sb60" + rtfSize(16) + "\\ql\n";
     for (const std::wstring& note : table.notes) {
         rtf += "{" + rtfText(note) + "}\\par\n";
     }
