@@ -38,7 +38,7 @@ public:
 
     void operator()(const Heading& heading)
     {
-        *html_ += "<h2>" + htmlText(heading.text) + "</h2>\n";
+        *html_ += "<h2>" + xmlText(heading.text) + "</h2>\n";
     }
 
     void operator()(const Paragraph& paragraph)
@@ -80,7 +80,7 @@ private:
         while (!text.empty()) {
             const std::size_t end = std::min(text.find(L'\n'), text.size());
             if (end > 0) {
-                *html_ += "<p>" + htmlText(text.substr(0, end)) + "</p>\n";
+                *html_ += "<p>" + xmlText(text.substr(0, end)) + "</p>\n";
             }
             text.remove_prefix(std::min(end + 1, text.size()));
         }
@@ -91,7 +91,7 @@ private:
         *html_ += "<pre>";
         while (!text.empty()) {
             const std::size_t end = std::min(text.find(L'\n'), text.size());
-            *html_ += htmlText(text.substr(0, end)) + "\n";
+            *html_ += xmlText(text.substr(0, end)) + "\n";
             text.remove_prefix(std::min(end + 1, text.size()));
         }
         *html_ += "</pre>\n";
@@ -107,10 +107,10 @@ std::string documentHtml(const Document& document)
 {
     std::string html = "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
                        "<title>" +
-                       htmlText(document.title) + "</title>\n<style>" + std::string(kStyle) +
-                       "</style>\n</head>\n<body>\n<h1>" + htmlText(document.title) + "</h1>\n";
+                       xmlText(document.title) + "</title>\n<style>" + std::string(kStyle) +
+                       "</style>\n</head>\n<body>\n<h1>" + xmlText(document.title) + "</h1>\n";
     for (const std::wstring& line : document.head) {
-        html += "<p>" + htmlText(line) + "</p>\n";
+        html += "<p>" + xmlText(line) + "</p>\n";
     }
     HtmlWriter writer(html);
     for (const Block& block : document.blocks) {

@@ -29,32 +29,33 @@ std::string rtfCharacter(wchar_t character)
 
 } // namespace
 
-std::string htmlText(std::wstring_view text)
+std::string xmlText(std::wstring_view text)
 {
-    std::wstring escaped;
-    escaped.reserve(text.size());
+    std::wstring safe;
+    safe.reserve(text.size());
     for (const wchar_t character : text) {
         switch (character) {
         case L'&':
-            escaped += L"&amp;";
+            safe += L"&amp;";
             break;
         case L'<':
-            escaped += L"&lt;";
+            safe += L"&lt;";
             break;
         case L'>':
-            escaped += L"&gt;";
+            safe += L"&gt;";
             break;
         case L'"':
-            escaped += L"&quot;";
+            safe += L"&quot;";
             break;
-        case L'\'':
-            escaped += L"&#39;";
-            break;
-        default:
-            escaped += character < L' ' || character == 0x7F ? L' ' : character;
+        default: {
+            const bool control = (character < L' ' && character != L'\t' && character != L'\n') ||
+                                 (character >= 0x7F && character <= 0x9F);
+            const bool noCharacter = (character & 0xFFFE) == 0xFFFE;
+            safe += control || noCharacter ? wchar_t{0xFFFD} : character;
+        }
         }
     }
-    return core::toUtf8(escaped);
+    return core::toUtf8(safe);
 }
 
 std::string rtfText(std::wstring_view text)

@@ -1,4 +1,4 @@
-// Texts made fit for HTML and Rich Text Format.
+// Texts made fit for XML, HTML and Rich Text Format.
 #pragma once
 
 #include <string>
@@ -7,10 +7,10 @@
 namespace kestrav::present
 {
 
-/// The text in UTF-8 with "&", "<", ">" and quotes as entities, so that it can stand in an element
-/// or in a quoted attribute. Control characters, which XML and HTML have no place for, become
-/// blanks.
-[[nodiscard]] std::string htmlText(std::wstring_view text);
+/// The text in UTF-8 with "&", "<", ">" and double quotes as entities, so that it can stand in an
+/// element of XML or HTML or in an attribute between double quotes. Control characters and others
+/// that these have no place for become U+FFFD; tabs and line ends stay.
+[[nodiscard]] std::string xmlText(std::wstring_view text);
 
 /// The text in ASCII with the escapes of Rich Text Format; line breaks become new lines of the same
 /// paragraph and tabs stay tabs.

@@ -2,8 +2,8 @@
 
 #include "app/present/AccessibleText.h"
 #include "app/present/Glyphs.h"
+#include "app/present/Markup.h"
 #include "app/present/TextWidths.h"
-#include "core/FileText.h"
 
 #include <array>
 #include <charconv>
@@ -193,34 +193,6 @@ private:
 };
 
 } // namespace
-
-std::string xmlText(std::wstring_view text)
-{
-    std::wstring safe;
-    safe.reserve(text.size());
-    for (const wchar_t character : text) {
-        switch (character) {
-        case L'&':
-            safe += L"&amp;";
-            break;
-        case L'<':
-            safe += L"&lt;";
-            break;
-        case L'>':
-            safe += L"&gt;";
-            break;
-        case L'"':
-            safe += L"&quot;";
-            break;
-        default: {
-            const bool control = character < L' ' && character != L'\t' && character != L'\n';
-            const bool noCharacter = (character & 0xFFFE) == 0xFFFE;
-            safe += control || noCharacter ? wchar_t{0xFFFD} : character;
-        }
-        }
-    }
-    return core::toUtf8(safe);
-}
 
 std::string writeSvg(const DisplayList& list, const SvgOptions& options)
 {

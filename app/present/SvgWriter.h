@@ -20,8 +20,4 @@ struct SvgOptions
 /// its title and description.
 [[nodiscard]] std::string writeSvg(const DisplayList& list, const SvgOptions& options = {});
 
-/// The text with the characters that XML reserves written as entities, and characters that XML
-/// cannot hold as U+FFFD.
-[[nodiscard]] std::string xmlText(std::wstring_view text);
-
 } // namespace kestrav::present

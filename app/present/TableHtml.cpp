@@ -14,14 +14,14 @@ std::string element(const char* name, const Column& column, const std::wstring& 
     if (column.align == Align::Right) {
         tag += " class=\"number\"";
     }
-    return tag + ">" + htmlText(text) + "</" + name + ">";
+    return tag + ">" + xmlText(text) + "</" + name + ">";
 }
 
 std::string gridHtml(const Table& table)
 {
     std::string html = "<table>\n";
     if (!table.title.empty()) {
-        html += "<caption>" + htmlText(table.title) + "</caption>\n";
+        html += "<caption>" + xmlText(table.title) + "</caption>\n";
     }
     const bool labels = table.withoutHeadings();
     if (!labels) {
@@ -51,12 +51,12 @@ std::string tableHtml(const Table& table)
 {
     std::string html;
     if (table.explainsItsEmptiness()) {
-        html = table.title.empty() ? "" : "<p><b>" + htmlText(table.title) + "</b></p>\n";
+        html = table.title.empty() ? "" : "<p><b>" + xmlText(table.title) + "</b></p>\n";
     } else {
         html = gridHtml(table);
     }
     for (const std::wstring& note : table.notes) {
-        html += "<p class=\"note\">" + htmlText(note) + "</p>\n";
+        html += "<p class=\"note\">" + xmlText(note) + "</p>\n";
     }
     return html;
 }

@@ -1,4 +1,5 @@
 // SVG and drawings with characters.
+#include "app/present/Markup.h"
 #include "app/present/SvgWriter.h"
 #include "app/present/TerminalDrawing.h"
 #include "app/present/TextWidths.h"
