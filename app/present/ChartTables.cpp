@@ -173,6 +173,8 @@ void addNotComputedNote(Table& table, const ComputedChart& computed)
 {
     if (!computed.chart.hasMoment) {
         table.notes.push_back(L"-- not computed: only positions are known");
+    } else if (!computed.hasPlace) {
+        table.notes.push_back(L"-- not computed: the place is not known");
     } else if (!computed.day) {
         table.notes.push_back(L"-- not computed: no day from sunrise to sunrise is running");
     }
@@ -181,7 +183,7 @@ void addNotComputedNote(Table& table, const ComputedChart& computed)
 Table daylightTable(const ComputedChart& computed)
 {
     Table table = labelledTable("daylight", L"");
-    if (!computed.chart.hasMoment) {
+    if (!computed.chart.hasMoment || !computed.hasPlace) {
         table.add({L"Sunrise and sunset", kNotComputedText});
         return table;
     }
@@ -195,6 +197,10 @@ Table sunTable(const ComputedChart& computed)
 {
     const core::Settings& settings = computed.settings;
     Table table = labelledTable("sun", L"");
+    if (!computed.chart.hasMoment || !computed.hasPlace) {
+        table.add({L"Sunrise, noon and sunset", kNotComputedText});
+        return table;
+    }
     table.add({L"Sunrise", secondsOrNone(computed.chart.sunrise, settings)});
     table.add({L"Noon", secondsOrNone(computed.upperCulmination, settings)});
     table.add({L"Sunset", secondsOrNone(computed.chart.sunset, settings)});

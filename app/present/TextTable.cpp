@@ -14,6 +14,10 @@ namespace
 
 constexpr std::size_t kGap = 2;
 
+// Where the other columns are wider than this, a text that breaks stands below its row, so that it
+// does not become a narrow strip.
+constexpr std::size_t kWidestLead = 60;
+
 void endLine(std::wstring& text)
 {
     text.erase(text.find_last_not_of(L' ') + 1);
@@ -52,7 +56,12 @@ std::wstring TextTable::text() const
         std::wstring line;
         for (std::size_t i = 0; i < cells.size(); ++i) {
             if (columns_[i].align == Align::Wrapped && !cells[i].empty()) {
-                text += wrapped(cells[i], line);
+                if (line.size() <= kWidestLead) {
+                    text += wrapped(cells[i], line);
+                } else {
+                    endLine(line);
+                    text += line + wrapped(cells[i], L"    ");
+                }
                 return;
             }
             const std::wstring padding(widths[i] - cells[i].size(), L' ');

@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace kestrav::present
 {
 
@@ -93,6 +95,26 @@ TEST(TableWriters, TextKeepsItsLines)
     Table table = {"t", L"", {{L"A"}, {L"B"}}};
     table.add({L"a\tb\nc", L"d"});
     EXPECT_EQ(tableText(table), L"A      B\na b c  d\n");
+    // A text that breaks stands beside narrow columns and below wide ones.
+    for (const std::size_t width : {10U, 70U}) {
+        Table broken = {"b", L"", {{L"A"}, {L"Why", Align::Wrapped}}};
+        std::wstring words = L"word";
+        for (int i = 0; i < 30; ++i) {
+            words += L" word";
+        }
+        broken.add({std::wstring(width, L'x'), words});
+        const std::wstring text = tableText(broken);
+        EXPECT_EQ(text.find(L"x  word") != std::wstring::npos, width == 10U);
+        EXPECT_EQ(text.find(L"x\n    word word") != std::wstring::npos, width == 70U);
+        std::size_t longest = 0;
+        for (std::size_t start = 0; start < text.size();) {
+            const std::size_t end = text.find(L'\n', start);
+            longest = std::max(longest, end - start);
+            start = end + 1;
+        }
+        EXPECT_GT(longest, 90U);
+        EXPECT_LE(longest, 100U);
+    }
 }
 
 TEST(TableWriters, HtmlEscapesEveryText)
