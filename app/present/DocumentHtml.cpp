@@ -20,7 +20,7 @@ p { margin: 0.3em 0; }
 p.note { font-size: 9pt; }
 pre { font-family: "DejaVu Sans Mono", monospace; font-size: 8pt; }
 table { border-collapse: collapse; margin: 0.8em 0; font-size: 9pt; }
-caption { text-align: left; font-weight: bold; padding-bottom: 0.3em; }
+caption { text-align: left; font-weight: bold; padding-bottom: 0.3em; white-space: nowrap; }
 th, td { text-align: left; padding: 0.15em 0.8em 0.15em 0; border-bottom: 1px solid #bbb; vertical-align: top; }
 .number { text-align: right; }
 .diagrams { display: flex; flex-wrap: wrap; gap: 1.5em; break-inside: avoid; }

@@ -8,7 +8,7 @@ import subprocess
 import unittest
 from html.parser import HTMLParser
 
-from program import EXAMPLE, HOROSCOPE_R, ProgramTest
+from program import EXAMPLE, EXAMPLE_POSITIONS, HOROSCOPE_R, TROMSO_IN_JUNE, ProgramTest
 
 AWKWARD = ["--name", 'Ra"n&i <o> \\{} देवी']
 THEN = ["--at", "2026-11-21"]
@@ -81,12 +81,68 @@ class Tables(ReportTest):
         self.assertLess(moment, 2461365.5)
         self.assertEqual(running["rows"][0][1]["sortKey"], moment)
 
+    def table(self, name, *words):
+        return self.json("table", name, *EXAMPLE, *THEN, *words)["tables"][0]
+
+    def cells(self, name, *words):
+        return [[cell["text"] for cell in row] for row in self.table(name, *words)["rows"]]
+
+    def test_tables_of_days(self):
+        ephemeris = self.table("ephemeris", "--days", "3")["rows"]
+        self.assertEqual([row[0]["text"] for row in ephemeris],
+                         ["2026-11-21", "2026-11-22", "2026-11-23"])
+        for name in ("transits", "transit-kakshyas", "moon-phases", "eclipses"):
+            few, more = (self.cells(name, "--days", days) for days in ("40", "400"))
+            self.assertEqual(few, more[:len(few)], name)
+            self.assertLess(len(few), len(more), name)
+        # Total eclipse of the Sun on 2027 August 2, of the Moon on 2028 December 31.
+        dates = [row[0] for row in self.cells("eclipses", "--days", "800")]
+        self.assertTrue({"2027-08-02", "2028-12-31"} <= {date[:10] for date in dates}, dates)
+
+    def test_kakshyas(self):
+        # Eighths of a sign; their lords in the order of the text books.
+        lords = "Saturn Jupiter Mars Sun Venus Mercury Moon Ascendant".split()
+        for planet, _, part, lord, _ in self.cells("kakshyas"):
+            degrees = EXAMPLE_POSITIONS[planet][1] + EXAMPLE_POSITIONS[planet][2] / 60
+            self.assertEqual((int(part), lord),
+                             (int(degrees / 3.75) + 1, lords[int(degrees / 3.75)]))
+
+    def test_parts_of_the_day(self):
+        horas = self.cells("horas")
+        self.assertEqual([row[0] for row in horas], [str(hora) for hora in range(1, 13)])
+        # A Saturday: its lord has the first hora, and those of the night go on from the twelfth.
+        self.assertEqual([horas[0][2], horas[1][2], horas[0][4]], ["Sat", "Jup", "Mer"])
+        polar = self.json("table", "horas", *TROMSO_IN_JUNE)["tables"][0]
+        self.assertEqual(polar["rows"], [])
+        stays = self.json("table", "panchanga", *TROMSO_IN_JUNE)["tables"][0]["rows"]
+        self.assertIn("does not set on this day", [row[1]["text"] for row in stays])
+
+    def test_matching(self):
+        totals = []
+        for words in ([], ["--bride-first"]):
+            match = self.json("match", *EXAMPLE, *SECOND, *words)
+            rows = self.cells("kutas", *SECOND, *words)
+            totals.append(float(rows[-1][1]))
+            self.assertEqual(totals[-1], match["total"])
+            self.assertEqual([row[3] for row in rows[:-1]],
+                             [kuta["why"] for kuta in match["kutas"]])
+        self.assertNotEqual(totals[0], totals[1])
+
+    def test_yogas_have_reasons(self):
+        table = self.table("yogas", "--yogas", self.yogas())
+        self.assertEqual(table["title"], "1 of 2 yogas hold")
+        self.assertEqual([cell["text"] for cell in table["rows"][0]],
+                         ["Guru & Dhanus", "Signs", "Jupiter is in Sagittarius"])
+
     def test_errors(self):
         for words, text in (
                 (["table", *EXAMPLE], "name a table"),
                 (["table", "nothing", *EXAMPLE], "there is no table 'nothing'"),
                 (["table", "positions", *EXAMPLE, "--format", "xml"], "--format 'xml'"),
                 (["table", "positions", *EXAMPLE, "--levels", "6"], "--levels '6'"),
+                (["table", "kutas", *EXAMPLE], "kutas: needs a second chart"),
+                (["table", "tithis", *EXAMPLE[:6]], "tithis: a panchanga needs"),
+                (["table", "transits", *EXAMPLE, "--at", "8500-01-01"], "outside the years"),
                 (["report", *EXAMPLE, "--section", "nothing"], "no report section 'nothing'"),
                 (["report", *EXAMPLE, "--style", "west"], "--style 'west'"),
                 (["report", *EXAMPLE, "--json", "--format", "rtf"], "contradict")):
@@ -142,6 +198,11 @@ class Reports(ReportTest):
         for part in ("Positions of positions.json", "Ayanamsa Lahiri", "Houses ", "sunrise",
                      "Kestrav "):
             self.assertIn(part, head)
+
+    def test_without_place(self):
+        text = self.text("report", *EXAMPLE[:6], *THEN, "--report", "full")
+        self.assertIn("No place: no ascendant, no houses and no sunrise", text)
+        self.assertNotIn("neither rises nor sets", text)
 
     def test_own_report(self):
         self.file("Kestrav report 1\nname Mine\n# two charts\n"
