@@ -26,12 +26,6 @@ constexpr std::array<int, 11> kUsualBodies = {
     core::kSun,    core::kMoon, core::kMars,   core::kMercury, core::kJupiter, core::kVenus,
     core::kSaturn, core::kRahu, core::kUranus, core::kNeptune, core::kPluto};
 
-std::string yearsOfTables()
-{
-    return "the years " + std::to_string(timing::kFirstTableYear) + " to " +
-           std::to_string(timing::kLastTableYear);
-}
-
 std::string lowerCase(std::string text)
 {
     std::transform(text.begin(), text.end(), text.begin(),
@@ -107,6 +101,12 @@ Error planError(timing::PlanProblem problem, const Arguments& arguments)
 }
 
 } // namespace
+
+std::string yearsOfTables()
+{
+    return "the years " + std::to_string(timing::kFirstTableYear) + " to " +
+           std::to_string(timing::kLastTableYear);
+}
 
 Result<core::DateTimeRecord> readTableDate(const Arguments& arguments, std::string_view option)
 {

@@ -9,6 +9,7 @@
 #include "timing/Ephemeris.h"
 
 #include <array>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -34,6 +35,9 @@ inline constexpr std::array<OptionInfo, 13> kEphemerisOptions = {{
     {"--no-events", "", "leave out the phases of the Moon, the ingresses and the stations"},
     {"--no-rows", "", "leave out the rows of positions"},
 }};
+
+/// "the years -4000 to 8000", outside which no date of a table may lie.
+[[nodiscard]] std::string yearsOfTables();
 
 /// A date of an option, within the years of the tables. The error names the option.
 [[nodiscard]] core::Result<core::DateTimeRecord> readTableDate(const Arguments& arguments,

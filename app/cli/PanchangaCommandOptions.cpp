@@ -1,5 +1,6 @@
 #include "app/cli/PanchangaCommandOptions.h"
 
+#include "app/cli/EphemerisCommandOptions.h"
 #include "core/DateTime.h"
 #include "core/FileText.h"
 #include "core/Names.h"
@@ -34,11 +35,11 @@ core::DateTimeRecord recordOf(const core::CivilDate& date)
 
 Result<double> dayOfOption(const Arguments& arguments, const std::string& option)
 {
-    const Result<core::CivilDate> date = core::parseDate(*arguments.value(option));
+    const Result<core::DateTimeRecord> date = readTableDate(arguments, option);
     if (!date) {
-        return Error{option + ": " + date.error().message};
+        return date.error();
     }
-    return core::DateToJulianDay(recordOf(date.value()));
+    return core::DateToJulianDay(date.value());
 }
 
 // The first option typed that cannot stand beside a span.
@@ -59,6 +60,9 @@ Result<PanchangaDays> monthDays(Arguments& arguments)
     const Result<core::CivilDate> first = core::parseDate(firstText);
     if (!first) {
         return Error{"--month '" + text + "' is not a month; write YYYY-MM"};
+    }
+    if (!timing::isInTables(recordOf(first.value()))) {
+        return Error{"--month " + text + " lies outside " + yearsOfTables()};
     }
     core::CivilDate next = first.value();
     next.month = next.month % 12 + 1;
@@ -112,7 +116,7 @@ Result<PanchangaDays> singleDay(const Arguments& arguments)
         return Error{"--date is missing (or give --month, --from and --to, or --now)"};
     }
     days.atMoment = !arguments.has("--date") || arguments.has("--time");
-    if (!days.atMoment) {
+    if (arguments.has("--date")) {
         const Result<double> day = dayOfOption(arguments, "--date");
         if (!day) {
             return day.error();
