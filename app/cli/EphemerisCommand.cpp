@@ -152,7 +152,14 @@ bool sameMonth(const core::DateTimeRecord& one, const core::DateTimeRecord& othe
     return one.year == other.year && one.month == other.month;
 }
 
-// Month by month: its rows, and below them what happens until the next month that has rows.
+// 0h of the first day of a date's month, as a moment of Universal Time.
+double beginOfMonth(core::DateTimeRecord date, double clockOffset)
+{
+    date.day = 1;
+    return timing::julianDayOf(date, clockOffset);
+}
+
+// Month by month: its rows, and below them what happens until the next month that has rows begins.
 void printText(const Ephemeris& ephemeris, const Arguments& arguments,
                const core::Settings& settings, Console& console)
 {
@@ -174,8 +181,9 @@ void printText(const Ephemeris& ephemeris, const Arguments& arguments,
                sameMonth(ephemeris.rows[last].date, ephemeris.rows[first].date)) {
             ++last;
         }
-        // What happens before the first row of the next month belongs to this one.
-        const double until = last < ephemeris.rows.size() ? ephemeris.rows[last].julianDay : end;
+        const double until = last < ephemeris.rows.size()
+                                 ? beginOfMonth(ephemeris.rows[last].date, plan.clockOffset)
+                                 : end;
         const std::vector<timing::EphemerisRow> rows(ephemeris.rows.begin() + std::ptrdiff_t(first),
                                                      ephemeris.rows.begin() + std::ptrdiff_t(last));
         const std::wstring text = tablesText(

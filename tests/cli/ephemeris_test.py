@@ -79,8 +79,10 @@ class Ephemeris(ProgramTest):
                                     r"1996-12-07 +Saturday +21°3\d'Sc +1\.01\d ")
         self.assertTrue(blocks[1].startswith("Phases of the Moon\n"))
         self.assertRegex(blocks[2], r"\n1996-12-24 +1:[01]\d:\d\d +\S+ +Mercury turns retrograde in ")
-        # January has its own rows, with what comes after the first of them.
+        # January has its own rows, with what comes before the first of them, too.
         self.assertRegex(blocks[3], r"\n1997-01-02 +Thursday .*Sg R +-")
+        self.assertNotIn("1997", blocks[1])
+        self.assertRegex(blocks[4], r"\n1997-01-02 +7:1\d:\d\d +Last quarter ")
         sanskrit = self.text("ephemeris", "--from", "2024-04-13", "--to", "2024-04-13", *INDIA,
                              "--bodies", "sun", "--language", "sanskrit")
         self.assertIn("Surya enters Mesha", sanskrit)
