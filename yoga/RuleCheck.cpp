@@ -34,18 +34,24 @@ bool hasEmptyPiece(const YogaRule& rule)
     return empty;
 }
 
+// The test of a condition that is wrong fails, so that its negation holds in every chart.
+std::string failingCondition(std::size_t index, const Condition& one)
+{
+    return condition(index, one) + (one.negated ? " always holds: " : " never holds: ");
+}
+
 void checkCondition(std::size_t index, const Condition& one, std::vector<RuleProblem>& problems)
 {
     std::vector<std::string> unknown;
     static_cast<void>(ParseCondition(one.text, kCatalogueNames, &unknown));
     for (const std::string& word : unknown) {
-        problems.push_back({false, condition(index, one) + " never holds: the word " +
-                                       data::shown(word) + " is not known"});
+        problems.push_back({false, failingCondition(index, one) + "the word " + data::shown(word) +
+                                       " is not known"});
     }
     if (unknown.empty()) {
         const std::string problem = conditionProblem(one);
         if (!problem.empty()) {
-            problems.push_back({false, condition(index, one) + " never holds: " + problem});
+            problems.push_back({false, failingCondition(index, one) + problem});
         }
     }
     const std::vector<std::string_view> words = wordsOf(one.text);

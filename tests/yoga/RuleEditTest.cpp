@@ -107,8 +107,10 @@ TEST(RuleCheck, FindsProblems)
     }
     EXPECT_THAT(texts("DayBirth\\InSign,,Sunn,Leo"),
                 ElementsAre(testing::AllOf(HasSubstr("condition 2"), HasSubstr("Sunn"),
-                                           HasSubstr("is not known"))));
+                                           HasSubstr("never holds"), HasSubstr("is not known"))));
     EXPECT_THAT(texts("InSign,,Sun"), ElementsAre(HasSubstr("condition 1")));
+    EXPECT_THAT(texts("InSign,!,Sunn,Leo"), ElementsAre(HasSubstr("always holds: the word")));
+    EXPECT_THAT(texts("InSign,!,Sun"), ElementsAre(HasSubstr("always holds")));
     EXPECT_THAT(texts("InSign,Sun,Sun,Leo"), ElementsAre(HasSubstr("negation mark")));
     EXPECT_FALSE(readCheckedRule("("));
     EXPECT_FALSE(readCheckedRule(""));
