@@ -185,6 +185,16 @@ TransitContext makeTransitContext(const core::Settings& settings, TransitMode mo
     return context;
 }
 
+bool isExcludedBody(const TransitContext& context, int transitBody)
+{
+    // Uranus, Neptune and Pluto stand behind the upagrahas in the point index and go with them.
+    if (context.excludeUpagrahas && transitBody > core::kKetu) {
+        return true;
+    }
+    return (transitBody == core::kRahu && context.nodeOption == 2) ||
+           (transitBody == core::kKetu && context.nodeOption >= 1);
+}
+
 bool isExcludedTransit(const TransitContext& context, int targetPoint, int transitBody)
 {
     if (context.mode == TransitMode::TransitToTransit &&
@@ -192,12 +202,7 @@ bool isExcludedTransit(const TransitContext& context, int targetPoint, int trans
          (isNode(targetPoint) && isNode(transitBody)))) {
         return true;
     }
-    // Uranus, Neptune and Pluto stand behind the upagrahas in the point index and go with them.
-    if (context.excludeUpagrahas && transitBody > core::kKetu) {
-        return true;
-    }
-    return (transitBody == core::kRahu && context.nodeOption == 2) ||
-           (transitBody == core::kKetu && context.nodeOption >= 1);
+    return isExcludedBody(context, transitBody);
 }
 
 bool isAspectChosen(const TransitContext& context, int transitBody, int houseDistance,

@@ -76,6 +76,9 @@ struct TransitContext
 [[nodiscard]] TransitContext makeTransitContext(const core::Settings& settings, TransitMode mode,
                                                 const core::Chart* native);
 
+/// Whether the options of the context drop a transiting body.
+[[nodiscard]] bool isExcludedBody(const TransitContext& context, int transitBody);
+
 /// Whether a pair of target and transiting body is never tested.
 [[nodiscard]] bool isExcludedTransit(const TransitContext& context, int targetPoint,
                                      int transitBody);

@@ -106,7 +106,9 @@ public:
             add(event);
         };
         for (const int body : options_.bodies) {
-            addMotions(search, body, sink);
+            if (!isExcludedBody(context_, body)) {
+                addMotions(search, body, sink);
+            }
         }
         if (options_.kinds.orbs) {
             forEachPair([&](int body, int target) {

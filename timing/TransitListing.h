@@ -52,6 +52,7 @@ using TransitWatch = FunctionRef<bool(std::size_t done, std::size_t total)>;
 /// setting allPasses is on; else they are those that TransitAspect accepts day by day, in the order
 /// of bodies and, for each of them, of targets. Their hours are refined on the positions
 /// themselves. All other events come from the event search.
+/// A body that the node option or `excludeUpagrahas` drops has no events at all.
 /// In the transit-to-transit mode with all passes a conjunction of two bodies stands once in the
 /// list, under the faster one, unless an offset sets the two places apart.
 /// `native` may be null in the transit-to-transit mode. Targets without a position are passed over.

@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <set>
 #include <tuple>
 #include <vector>
 
@@ -221,6 +222,29 @@ TEST_F(TransitList, spansEndToEndGiveTheWholeList)
                                       });
     EXPECT_EQ(calls, 1U);
     EXPECT_LT(stopped.size(), whole.size());
+}
+
+TEST_F(TransitList, droppedBodiesHaveNoEventsAtAll)
+{
+    TransitOptions options =
+        aspectsOf({core::kMars, core::kRahu, core::kKetu, core::kUranus}, {core::kMoon});
+    options.kinds = TransitKinds{};
+    const TransitDays days{date(2020, 1, 1), date(2023, 12, 31)};
+    const auto bodies = [&](int nodeOption, bool excludeUpagrahas) {
+        core::Settings dropping;
+        dropping.nodeOption = nodeOption;
+        SiderealSky other(tests::seriesForTests(), dropping, kIndia);
+        options.excludeUpagrahas = excludeUpagrahas;
+        std::set<int> found;
+        for (const TransitEvent& event : listTransits(other, &chartE(), options, days, kIndia)) {
+            found.insert(event.body);
+        }
+        return found;
+    };
+    using Bodies = std::set<int>;
+    EXPECT_EQ(bodies(0, false), (Bodies{core::kMars, core::kRahu, core::kKetu, core::kUranus}));
+    EXPECT_EQ(bodies(1, false), (Bodies{core::kMars, core::kRahu, core::kUranus}));
+    EXPECT_EQ(bodies(2, true), (Bodies{core::kMars}));
 }
 
 TEST_F(TransitList, orbsEnclosePasses)
