@@ -1,8 +1,8 @@
 #include "timing/EphemerisEvents.h"
 
 #include "core/PointNames.h"
-#include "core/Points.h"
 #include "core/SignData.h"
+#include "timing/TransitSearch.h"
 
 #include <algorithm>
 
@@ -13,32 +13,6 @@ namespace
 {
 
 constexpr Levels kSigns{0.0, 30.0};
-
-bool hasStations(int body)
-{
-    return body != core::kSun && body != core::kMoon && body != core::kRahu && body != core::kKetu;
-}
-
-// Days in which a body goes less than half round the zodiac, and turns at most once in three steps.
-double stepOf(int body)
-{
-    switch (body) {
-    case core::kMoon:
-        return 2.0;
-    case core::kMercury:
-        return 4.0;
-    case core::kVenus:
-        return 8.0;
-    case core::kSun:
-    case core::kMars:
-        return 10.0;
-    case core::kRahu:
-    case core::kKetu:
-        return 50.0;
-    default:
-        return 20.0;
-    }
-}
 
 void addIngresses(std::vector<EphemerisEvent>& list, SiderealSky& sky, int body, Span span,
                   const CurveShape& shape)
@@ -90,9 +64,9 @@ std::vector<EphemerisEvent> ephemerisEventsIn(SiderealSky& sky, const std::vecto
     std::vector<EphemerisEvent> list;
     for (std::size_t done = 0; done < bodies.size() && progress(done); ++done) {
         const int body = bodies[done];
-        const CurveShape shape{360.0, stepOf(body), !hasStations(body), 1e-6};
+        const CurveShape shape = transitShape(body);
         addIngresses(list, sky, body, span, shape);
-        if (hasStations(body)) {
+        if (!shape.monotone) {
             addStations(list, sky, body, span, shape);
         }
     }
