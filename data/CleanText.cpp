@@ -44,6 +44,14 @@ constexpr std::array<std::pair<wchar_t, wchar_t>, 14> kSignRanges = {{
     {0xFFF0, 0xFFFF},
 }};
 
+// The two decimals of an event's time would print the last seconds of a day as 24.00, which reads
+// as no time of a day.
+double beforeMidnight(double hours)
+{
+    constexpr double kLastHours = 23.99;
+    return hours > kLastHours && hours < 24.0 ? kLastHours : hours;
+}
+
 } // namespace
 
 std::wstring cleanText(std::wstring_view text, std::size_t most)
@@ -118,6 +126,7 @@ void cleanRecord(core::Chart& chart)
     cleanContact(identity.contact);
     for (core::LifeEvent& event : identity.events) {
         clean(event.name, kEventNameLength);
+        event.hours = beforeMidnight(event.hours);
     }
     identity.shortName = shortNameOf(chart.name);
 }

@@ -26,7 +26,8 @@ namespace kestrav::data
 [[nodiscard]] std::optional<std::wstring> notesProblem(std::wstring_view text);
 
 /// Cleans and cuts every text of a record, as it is done when texts enter it from a form or an
-/// import. Bars in the notes become slashes.
+/// import. Bars in the notes become slashes; the last seconds of the day of an event become 23.99
+/// hours.
 void cleanRecord(core::Chart& chart);
 
 /// Whether the text holds a letter or a digit of any script.

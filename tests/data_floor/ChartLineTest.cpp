@@ -1,6 +1,7 @@
 #include "data/ChartLine.h"
 
 #include "data/ChartLineFields.h"
+#include "data/CleanText.h"
 #include "tests/data_floor/Records.h"
 
 #include <gtest/gtest.h>
@@ -309,6 +310,20 @@ TEST(ChartLine, NotesExtraTextAndContact)
     EXPECT_EQ(formatContact(read).size(), kExtraLength);
     EXPECT_EQ(read.sortCode, L"end");
     EXPECT_EQ(read.postcode, std::wstring(12, L'x'));
+}
+
+TEST(ChartLine, AnEventInTheLastSecondsOfADayStaysUsable)
+{
+    core::Chart chart;
+    chart.identity.events[0] = {L"Late", {1999, 6, 2}, 23.999};
+    chart.identity.events[1] = {L"Next", {1999, 6, 2}, 24.0};
+    cleanRecord(chart);
+    DateOrder order = DateOrder::DayFirst;
+    core::Chart read;
+    ParseChartLine(FormatChartLine(chart, order), read, order);
+    EXPECT_EQ(read.identity.events[0].hours, 23.99);
+    EXPECT_TRUE(read.identity.events[0].usable());
+    EXPECT_EQ(read.identity.events[1].hours, 24.0);
 }
 
 TEST(ChartLine, NumbersOfDamagedFiles)
