@@ -86,7 +86,7 @@ constexpr std::array<SettingInfo, 40> kTable = {{
     {"nodeOption", &S::nodeOption, 0, 2,
      "1 leaves transits of Ketu out of the listings, 2 those of Rahu and Ketu"},
     {"nodeAspectOption", &S::nodeAspectOption, 0, 2,
-     "1 gives transiting nodes the second house as aspect besides the others, 2 the twelfth"},
+     "1 gives the nodes the second house as aspect besides the others, 2 the twelfth"},
     {"allPasses", &S::allPasses, 0, 1,
      "whether transit listings take every exact pass from the event search"},
     {"upagrahaAtMiddle", &S::upagrahaAtMiddle, 0, 1,
