@@ -42,6 +42,15 @@ int arudhaHouse(int point)
     return pada ? point - core::kArudhaPada1 + 1 : 0;
 }
 
+void addCoLordSettings(Explanation& explanation, const core::Settings& settings)
+{
+    addSettings(explanation, settings, {"coLords"});
+    if (settings.coLords) {
+        // Of two lords the exalted one can be the stronger.
+        addSettings(explanation, settings, {"nodeDignityScheme"});
+    }
+}
+
 void addArudhaSteps(Explanation& explanation, const Request& request, int varga, int house)
 {
     const SignView view = signView(request.chart, varga, request.settings);

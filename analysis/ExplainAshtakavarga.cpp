@@ -120,6 +120,7 @@ Answer explainAshtakavarga(const Request& request)
     const SignRow12& row = at(table.bindus, request.point);
     Explanation explanation =
         about(text(L"ashtakavarga of ", nameOf(request.point), L" in the ", vargaText(*varga)));
+    addPlacementSettings(explanation, request.settings, *varga);
     explanation.result =
         text(L"pinda ", at(table.pinda, request.point).total(), L", bindus ", rowText(row));
     int sum = 0;

@@ -193,10 +193,7 @@ void addLongitudeSettings(Explanation& explanation, const Request& request)
     } else if (point >= core::kKaala && point <= core::kGulika) {
         addSettings(explanation, settings, {"upagrahaAtMiddle"});
     } else if (arudhaHouse(point) != 0) {
-        addSettings(explanation, settings, {"coLords"});
-        if (settings.coLords) {
-            addSettings(explanation, settings, {"nodeDignityScheme"});
-        }
+        addCoLordSettings(explanation, settings);
     } else if (point == core::kSaham2) {
         addSettings(explanation, settings, {"saham2"});
     } else if (point == core::kSaham3) {

@@ -59,6 +59,9 @@ void addArudhaSteps(Explanation& explanation, const Request& request, int varga,
 /// Adds the settings that choose the rule of a varga.
 void addPlacementSettings(Explanation& explanation, const core::Settings& settings, int varga);
 
+/// Adds the settings that choose the lords from which arudhas are computed.
+void addCoLordSettings(Explanation& explanation, const core::Settings& settings);
+
 /// Adds the relationship of a planet 1 to 7 towards another in a varga.
 void addRelationshipSteps(Explanation& explanation, const Request& request, int planet, int other,
                           int varga, int sign);

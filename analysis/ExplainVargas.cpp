@@ -262,7 +262,8 @@ Answer explainVarga(const Request& request, int varga)
     Explanation explanation = about(nameOf(request.point) + L" in the " + vargaText(varga));
     addPlacementSettings(explanation, request.settings, varga);
     if (arudhaHouse(request.point) != 0) {
-        addSettings(explanation, request.settings, {"arudhasInVargas", "coLords"});
+        addSettings(explanation, request.settings, {"arudhasInVargas"});
+        addCoLordSettings(explanation, request.settings);
     }
     addSettings(explanation, request.settings, {"sandhiMinutes"});
     if (!chart.computed(request.point)) {

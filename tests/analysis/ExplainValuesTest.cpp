@@ -417,6 +417,7 @@ TEST(ExplainValues, SettingsTakePart)
         {"horaMethod", "1", "hora", planets},
         {"horaMethod", "2", "hora", planets},
         {"horaMethod", "3", "dignity:hora", planets},
+        {"horaMethod", "3", "ashtakavarga:hora", planets},
         {"shodashamshaVariant", "1", "shodashamsha", planets},
         {"shodashamshaVariant", "1", "vimshopaka", planets},
         {"rudramshaVariant", "1", "D-11", planets},
@@ -464,6 +465,22 @@ TEST(ExplainValues, SettingsTakePart)
             }
         }
         EXPECT_GT(changed, 0) << each.result << " " << named;
+    }
+}
+
+TEST(ExplainValues, CoLordsBringTheNodeSchemeWithThem)
+{
+    core::Settings settings;
+    for (const bool coLords : {false, true}) {
+        settings.coLords = coLords;
+        const core::Chart chart = chartsToExplain(settings)[0];
+        for (const char* const each : {"arudha7:longitude", "arudha7:navamsha"}) {
+            int lines = 0;
+            for (const std::wstring& line : explained(chart, each, settings).settings) {
+                lines += count(utf8(line), "nodeDignityScheme = 0");
+            }
+            EXPECT_EQ(lines, coLords ? 1 : 0) << each;
+        }
     }
 }
 
