@@ -90,7 +90,10 @@ Print printOf(const ChartDatabase& database, const core::Settings& settings)
     bool ownOrders = true;
     for (std::size_t i = 0; i < database.size(); ++i) {
         const std::string_view line = database.line(i);
-        hash.add(line);
+        // Nothing in a research line comes from the tag, so that a change of groups leaves it
+        // valid.
+        const std::size_t tab = line.find('\t');
+        hash.add(tab == std::string_view::npos ? line : line.substr(tab));
         hash.add("\n");
         ownOrders = ownOrders && (isShortLine(line) || hasOwnOrder(line));
     }

@@ -323,8 +323,11 @@ TEST_F(ResearchFileTest, KnowsWhenItIsStale)
     EXPECT_EQ(messages.shown.back().text, kOptionsMovePlanets);
     settings = before;
     database.setTag(0, L'A');
+    EXPECT_EQ(state(), ResearchState::Fresh) << "a group moves nothing";
+    const std::string line(database.line(0));
+    database.replaceLine(0, line + "x");
     EXPECT_EQ(state(), ResearchState::ChartsChanged);
-    database.setTag(0, L' ');
+    database.replaceLine(0, line);
     EXPECT_EQ(state(), ResearchState::Fresh);
     put("my.charts.txt", get("my.charts.txt") + "more\n");
     EXPECT_EQ(state(), ResearchState::UnknownOrigin);
