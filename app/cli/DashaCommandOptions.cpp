@@ -317,7 +317,9 @@ Result<timing::DashaSpan> dashaSpan(const DashaRequest& request, const Arguments
         return start.error();
     }
     const double cycle = timing::chosenCycleYears(settings.dashaTotalLength);
-    const double usualEnd = start.value() + (cycle > 0.0 ? cycle : kUsualYears);
+    // A list whose periods are counted ends with the last of them, else with a life or a cycle.
+    const double usualEnd =
+        request.lines ? timing::kLastAge : start.value() + (cycle > 0.0 ? cycle : kUsualYears);
     const Result<double> end =
         ageOfEnd(request.to, request.toAge, usualEnd, 24.0, dasha, zone, last);
     if (!end) {

@@ -29,8 +29,8 @@ inline constexpr std::array<OptionInfo, 13> kDashaOptions = {{
      "Jovian, Custom, index 0 to 6, or 200 to 500 days"},
     {"--from-age", "YEARS", "age at which the list begins; 0 when not given"},
     {"--to-age", "YEARS",
-     "age at which the list ends; 120 years or one chosen cycle later when not "
-     "given"},
+     "age at which the list ends; 120 years or one chosen cycle later when neither it nor --lines "
+     "is given"},
     {"--from", "YYYY-MM-DD", "date on which the list begins, instead of the age"},
     {"--to", "YYYY-MM-DD", "last date of the list, instead of the age"},
     {"--lines", "N", "most periods of the list, 1 to 100000; 1000 when not given"},

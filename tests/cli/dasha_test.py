@@ -99,6 +99,11 @@ class Lists(ProgramTest):
                           "2020-01-06")["periods"]
         self.assertEqual([period["startDate"] for period in dates][-2:],
                          ["2019-12-18", "2020-01-06"])
+        # A life, unless the periods are counted: then the list goes on until their number is full.
+        life = self.json("dasha", *EXAMPLE, "--levels", "1")["periods"]
+        self.assertEqual(len(life), 10)
+        counted = self.json("dasha", *EXAMPLE, "--levels", "1", "--lines", "30")["periods"]
+        self.assertEqual((len(counted), counted[:10]), (30, life))
         # Without more, 1000 periods and a warning; a deep list costs only what is read of it.
         cut = self.json("dasha", *EXAMPLE, "--levels", "5", warning="1000 periods; --lines N")
         self.assertEqual(len(cut["periods"]), 1000)
