@@ -11,6 +11,7 @@
 #include "core/NumberText.h"
 #include "data/import/ImportText.h"
 #include "timing/SiderealSky.h"
+#include "yoga/CustomYogaList.h"
 #include "yoga/YogaListEdit.h"
 
 #include <nlohmann/json.hpp>
@@ -93,6 +94,22 @@ std::wstring listText(const yoga::YogaLibrary& library, const std::optional<std:
     return text;
 }
 
+// A plain list is recognised by its extension, because any line of text can be one of its yogas.
+core::Result<void> loadFile(yoga::YogaLibrary& library, const std::filesystem::path& path)
+{
+    if (path.extension() != ".txt") {
+        return library.load(path);
+    }
+    const core::Result<std::vector<yoga::CustomYoga>> list = yoga::readCustomYogas(path);
+    if (!list) {
+        return list.error();
+    }
+    yoga::YogaFile file;
+    yoga::importYogas(file, list.value());
+    library.store(path, std::move(file));
+    return {};
+}
+
 } // namespace
 
 std::optional<yoga::YogaLibrary> loadYogas(const Arguments& arguments, Console& console,
@@ -105,7 +122,7 @@ std::optional<yoga::YogaLibrary> loadYogas(const Arguments& arguments, Console& 
     }
     yoga::YogaLibrary library;
     for (const std::filesystem::path& file : files) {
-        const core::Result<void> loaded = library.load(file);
+        const core::Result<void> loaded = loadFile(library, file);
         if (loaded) {
             continue;
         }

@@ -52,6 +52,11 @@ class Yogas(ProgramTest):
         self.assertFails(1, "other.ksy: is no yoga file.*another program", "yogas", "list",
                          "--file", "other.ksy")
         self.assertFails(1, "none.ksy", "yogas", "list", "--file", "none.ksy")
+        self.assertFails(1, "none.txt", "yogas", "list", "--file", "none.txt")
+        self.file("Moon in Leo\tInSign,,Moo,Leo\nBad\t(\n", "cusyog2.txt")
+        plain = self.checked("yogas list", "--file", "cusyog2.txt")["files"][0]["yogas"]
+        self.assertEqual([(yoga["title"], yoga["rule"]) for yoga in plain],
+                         [("Moon in Leo", "InSign,,Moo,Leo"), ("Bad", "(")])
         # The user's own file is found in the current folder; a broken one is only warned of.
         self.file("<ksy><yg>", "myyogas.ksy")
         result = self.start("yogas", "list")
@@ -138,7 +143,7 @@ class Yogas(ProgramTest):
         charts = self.json("db", "list", *database)["charts"]
         self.assertEqual({chart["line"] for chart in charts if chart["tag"] == "B"},
                          {one["line"] for one in found["found"]})
-        self.start("db", "refresh", *database, "--yes")
+        self.assertIn("up to date", self.text("db", "refresh", *database))
         group = self.checked("yogas search", *words, "--group", "B")
         self.assertEqual(group["searched"], len(found["found"]))
 
