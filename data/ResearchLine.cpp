@@ -25,6 +25,7 @@ using core::at;
 constexpr std::array<int, 10> kSpeedPoints = {1, 2, 3, 4, 5, 6, 7, 32, 33, 34};
 constexpr std::array<int, 10> kMotionPoints = {3, 4, 5, 6, 7, 8, 9, 32, 33, 34};
 constexpr double kNoTime = -1.0;
+constexpr int kNoGulika = -1;
 constexpr double kRounding = 1.0e-6;
 
 int signNumber(double longitude)
@@ -217,8 +218,10 @@ std::string FormatResearchLine(const core::Chart& chart)
     for (const int point : kMotionPoints) {
         line.letter(core::motionLetter(at(chart.motion, point)));
     }
-    line.integer(signNumber(chart.longitude[core::kGulika]));
-    line.integer(core::truncated(chart.longitude[core::kGulika] * 60.0));
+    // Where the Sun does not rise there is no Gulika.
+    const bool gulika = chart.computed(core::kGulika);
+    line.integer(gulika ? signNumber(chart.longitude[core::kGulika]) : 0);
+    line.integer(gulika ? core::truncated(chart.longitude[core::kGulika] * 60.0) : kNoGulika);
     line.number(chart.ayanamsa);
     line.text(identity.sex);
     line.number(chart.geoLongitude);
@@ -251,8 +254,10 @@ bool ParseResearchLine(std::string_view line, core::Chart& chart)
     chart.name = fields.text();
     readPoints(fields, chart);
     fields.field();
-    chart.longitude[core::kGulika] = core::Normalize360(fields.integer() / 60.0);
-    analysis::computeSignData(chart, core::kGulika);
+    if (const int minutes = fields.integer(); minutes != kNoGulika) {
+        chart.longitude[core::kGulika] = core::Normalize360(minutes / 60.0);
+        analysis::computeSignData(chart, core::kGulika);
+    }
     chart.ayanamsa = fields.number();
     chart.time.ayanamsa = chart.ayanamsa;
     identity.sex = fields.text();

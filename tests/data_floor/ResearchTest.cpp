@@ -1,5 +1,6 @@
 #include "data/ResearchDatabase.h"
 
+#include "analysis/SignPositions.h"
 #include "core/DisplayFlags.h"
 #include "data/BirthTexts.h"
 #include "data/CheckDatabaseLine.h"
@@ -43,6 +44,7 @@ core::Chart plainChart()
     chart.motion[core::kJupiter] = core::Motion::Direct;
     chart.motion[core::kVenus] = core::Motion::Fast;
     chart.longitude[core::kGulika] = 100.51;
+    analysis::computeSignData(chart, core::kGulika);
     chart.ayanamsa = 23.5;
     chart.geoLongitude = 77.25;
     chart.geoLatitude = -8.5;
@@ -93,6 +95,20 @@ TEST(ResearchLine, FastDecimalsAreThoseOfTheFormat)
             break;
         }
     }
+}
+
+TEST(ResearchLine, WithoutSunriseThereIsNoGulika)
+{
+    core::Chart written = plainChart();
+    written.degreeInSign[core::kGulika] = core::kNotComputed;
+    const std::string line = FormatResearchLine(written);
+    EXPECT_EQ(researchField(line, 76), "0");
+    EXPECT_EQ(researchField(line, 77), "-1");
+    core::Chart chart;
+    ASSERT_TRUE(ParseResearchLine(line, chart));
+    EXPECT_FALSE(chart.computed(core::kGulika));
+    ASSERT_TRUE(ParseResearchLine(FormatResearchLine(plainChart()), chart));
+    EXPECT_TRUE(chart.computed(core::kGulika));
 }
 
 TEST(ResearchLine, ReadsBackWhatItHolds)

@@ -28,6 +28,7 @@ std::string lineOf(const wchar_t* name, double sun, double ascendant, double bir
     chart.identity.sex = sex;
     chart.ayanamsa = ayanamsa;
     chart.longitude[core::kGulika] = 100.5;
+    chart.degreeInSign[core::kGulika] = 10.5;
     chart.motion[core::kMars] = core::Motion::Retrograde;
     return data::FormatResearchLine(chart);
 }
