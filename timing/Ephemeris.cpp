@@ -1,8 +1,6 @@
 #include "timing/Ephemeris.h"
 
-#include "core/Angles.h"
 #include "core/NumberText.h"
-#include "core/numeric.h"
 
 #include <array>
 #include <cctype>
@@ -200,7 +198,7 @@ std::optional<EphemerisRow> EphemerisRows::next()
         return std::nullopt;
     }
     row.julianDay = day0h + (row.date.localTime - plan_.clockOffset) / 24.0;
-    row.weekday = core::ModFrom(7, 0, core::truncated(day0h + 1.5) % 7) + 1;
+    row.weekday = weekdayOfDay(day0h);
     row.bodies.reserve(plan_.bodies.size());
     for (const int point : plan_.bodies) {
         row.bodies.push_back({point, sky_.position(point, row.julianDay)});

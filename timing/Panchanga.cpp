@@ -1,9 +1,7 @@
 #include "timing/Panchanga.h"
 
-#include "core/Angles.h"
 #include "core/DeltaT.h"
 #include "core/SignData.h"
-#include "core/numeric.h"
 #include "timing/PanchangaNames.h"
 
 #include <cmath>
@@ -15,11 +13,6 @@ namespace
 {
 
 using astro::HorizonEvent;
-
-int weekdayOf(double julianDay0h)
-{
-    return core::ModFrom(7, 0, core::truncated(julianDay0h) % 7 + 2) + 1;
-}
 
 double dayBegin(const PanchangaDay& day)
 {
@@ -174,7 +167,7 @@ PanchangaDay Panchanga::day(double julianDay0h, const astro::Observer& observer)
     day.julianDay0h = julianDay0h;
     day.clockOffset = observer.clockOffset;
     day.date = recordWithDeltaT(julianDay0h);
-    day.weekday = weekdayOf(julianDay0h);
+    day.weekday = weekdayOfDay(julianDay0h);
     sky_.setClockOffset(observer.clockOffset);
     storeSun(day, observer);
     storeMoon(day, observer);

@@ -39,6 +39,11 @@ core::DateTimeRecord recordOfDay(double julianDay0h)
     return record;
 }
 
+int weekdayOfDay(double julianDay0h)
+{
+    return core::ModFrom(7, 0, core::truncated(std::floor(julianDay0h + 1.5)) % 7) + 1;
+}
+
 SiderealSky::SiderealSky(const astro::Series& series, const core::Settings& settings,
                          double clockOffset)
     : track_(series, settings.preciseMoon), settings_(settings), clockOffset_(clockOffset),

@@ -17,6 +17,9 @@ namespace kestrav::timing
 /// written as October 5 of the Julian one for it. The clock time is 0h.
 [[nodiscard]] core::DateTimeRecord recordOfDay(double julianDay0h);
 
+/// The weekday of the civil day that begins at a Julian day, 1 = Sunday to 7 = Saturday.
+[[nodiscard]] int weekdayOfDay(double julianDay0h);
+
 /// A body as a chart of the moment shows it.
 struct SkyPosition
 {

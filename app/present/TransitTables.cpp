@@ -6,19 +6,11 @@
 #include "timing/SiderealSky.h"
 #include "timing/TransitSearch.h"
 
-#include <cmath>
-
 namespace kestrav::present
 {
 
 namespace
 {
-
-int weekdayOf(double day0h)
-{
-    const double count = std::floor(day0h + 1.5);
-    return int(count - 7.0 * std::floor(count / 7.0)) + 1;
-}
 
 Cell dayCell(double day0h, double julianDay)
 {
@@ -46,7 +38,7 @@ Table transitTable(const std::vector<timing::TransitEvent>& events,
 {
     Table table = {"transits", L"", {{L"Date"}, {L"Weekday"}, {L"Time", Align::Right}, {L"Event"}}};
     for (const timing::TransitEvent& event : events) {
-        const int weekday = weekdayOf(event.day0h);
+        const int weekday = timing::weekdayOfDay(event.day0h);
         table.add({dayCell(event.day0h, event.julianDay),
                    Cell(std::wstring(core::weekdayName(weekday)), weekday),
                    Cell(clockSeconds(event.hour, style.twelveHour), event.hour),
