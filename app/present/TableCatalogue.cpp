@@ -86,7 +86,7 @@ Made dashaList(const TableSource& source)
     }
     timing::DashaSpan span;
     span.levels = source.levels;
-    span.endAge = kOldestAge;
+    span.endAge = source.lines > 0 ? timing::kLastAge : kOldestAge;
     span.budget = source.lines > 0 ? source.lines : span.budget;
     for (const timing::DashaPeriod& period : timing::DashaList(result.value().dasha, span)) {
         result.value().periods.push_back(period);

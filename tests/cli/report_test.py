@@ -76,6 +76,8 @@ class Tables(ReportTest):
         self.assertIn("(D-9)", nine)
         three = self.json("table", "dashas", *EXAMPLE, "--levels", "3", "--lines", "17")
         self.assertEqual(len(three["tables"][0]["rows"]), 17)
+        counted = self.json("table", "dashas", *EXAMPLE, "--levels", "1", "--lines", "30")
+        self.assertEqual(len(counted["tables"][0]["rows"]), 30)
         running = self.json("table", "running-dashas", *EXAMPLE, *THEN)["tables"][0]
         moment = running["rows"][0][1]["about"]["moment"]
         self.assertLess(moment, 2461365.5)
