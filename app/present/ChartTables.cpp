@@ -82,11 +82,10 @@ Cell nakshatraCell(double position)
         std::wstring(core::nakshatraName(nakshatra)), position, {Subject::Nakshatra, nakshatra}};
 }
 
-void addPoint(Table& table, const core::Chart& chart, int point)
+Row pointCells(const core::Chart& chart, int point)
 {
     if (!chart.computed(point)) {
-        table.add({pointCell(point), kNone, kNone, kNone, kNone, L"", L"", L"", L""});
-        return;
+        return {pointCell(point), kNone, kNone, kNone, kNone, L"", L"", L"", L""};
     }
     const double position = at(chart.nakshatraPosition, point);
     const int navamsha = at(chart.navamshaSign, point);
@@ -110,7 +109,20 @@ void addPoint(Table& table, const core::Chart& chart, int point)
         cells.push_back({core::FormatDMS(latitude, 1), latitude});
         cells.push_back({core::FormatDMS(declination, 1), declination});
     }
-    table.add(std::move(cells));
+    return cells;
+}
+
+// Only planets are computed with a magnitude and a phase.
+void addMagnitude(Row& cells, const core::Chart& chart, int point)
+{
+    const bool planet = (point >= core::kMars && point <= core::kSaturn) ||
+                        (point >= core::kUranus && point <= core::kPluto);
+    if (!planet || !chart.computed(point)) {
+        cells.insert(cells.end(), {L"", L""});
+        return;
+    }
+    cells.push_back(numberCell(at(chart.magnitude, point), 1));
+    cells.push_back(numberCell(100.0 * at(chart.phase, point), 0));
 }
 
 bool sandhiMissing(const core::Chart& chart)
@@ -237,11 +249,24 @@ Table positionsTable(const ComputedChart& computed)
                     {L"Motion"},
                     {L"Latitude", Align::Right},
                     {L"Declination", Align::Right}}};
-    if (computed.chart.computed(core::kAscendant)) {
-        addPoint(table, computed.chart, core::kAscendant);
+    const core::Chart& chart = computed.chart;
+    const bool magnitudes = computed.settings.magnitudes && chart.hasMoment;
+    if (magnitudes) {
+        table.columns.push_back({L"Magnitude", Align::Right});
+        table.columns.push_back({L"Lit %", Align::Right});
+    }
+    const auto addPoint = [&](int point) {
+        Row cells = pointCells(chart, point);
+        if (magnitudes) {
+            addMagnitude(cells, chart, point);
+        }
+        table.add(std::move(cells));
+    };
+    if (chart.computed(core::kAscendant)) {
+        addPoint(core::kAscendant);
     }
     for (const int point : core::kBodies) {
-        addPoint(table, computed.chart, point);
+        addPoint(point);
     }
     return table;
 }

@@ -24,7 +24,8 @@ namespace kestrav::present
 /// The day from sunrise to sunrise that runs at the moment.
 [[nodiscard]] Table vedicDayTable(const ComputedChart& computed);
 
-/// The bodies, and the ascendant where it exists: position, nakshatra, navamsha, motion.
+/// The bodies, and the ascendant where it exists: position, nakshatra, navamsha, motion; with the
+/// setting `magnitudes` also the visual magnitude and the lit part of the planets.
 [[nodiscard]] Table positionsTable(const ComputedChart& computed);
 
 /// House system, ascendant, midheaven and obliquity.

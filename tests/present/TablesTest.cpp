@@ -1,4 +1,5 @@
 // Tables and documents: the order of cells, and what writers do with awkward texts.
+#include "app/present/ChartTables.h"
 #include "app/present/Document.h"
 #include "app/present/Markup.h"
 #include "app/present/SpecialPointTables.h"
@@ -70,6 +71,31 @@ TEST(Tables, SideBySideKeepsEveryRow)
             EXPECT_EQ(down[std::size_t(i)], std::to_wstring(i));
         }
     }
+}
+
+TEST(Tables, MagnitudesHaveColumnsWhereTheyAreComputed)
+{
+    ComputedChart computed;
+    for (const int point : core::kBodies) {
+        core::at(computed.chart.degreeInSign, point) = 1.0;
+    }
+    computed.chart.degreeInSign[core::kPluto] = core::kNotComputed;
+    computed.chart.magnitude[core::kVenus] = -4.42;
+    computed.chart.phase[core::kVenus] = 0.254;
+    EXPECT_EQ(positionsTable(computed).columns.size(), 9U);
+    computed.settings.magnitudes = true;
+    const Table table = positionsTable(computed);
+    ASSERT_EQ(table.columns.size(), 11U);
+    for (const Row& row : table.rows) {
+        ASSERT_EQ(row.size(), 11U);
+        EXPECT_EQ(row[9].text.empty(),
+                  row[0].link.index <= core::kMoon || row[0].link.index == core::kRahu ||
+                      row[0].link.index == core::kKetu || row[0].link.index == core::kPluto);
+    }
+    EXPECT_EQ(table.rows[5][9].text, L"-4.4");
+    EXPECT_EQ(table.rows[5][10].text, L"25");
+    computed.chart.hasMoment = false;
+    EXPECT_EQ(positionsTable(computed).columns.size(), 9U);
 }
 
 TEST(TableWriters, CsvQuotesAndHoldsFormulasBackButNotNumbers)
