@@ -53,9 +53,10 @@ std::optional<double> numberOfLine(const std::vector<std::string>& lines, std::s
     return number <= lines.size() ? plainNumber(lines[number - 1]) : std::nullopt;
 }
 
+// A number is no place: some old files have longitudes of planets from line 9 to line 17.
 std::string textOfLine(const std::vector<std::string>& lines, std::size_t number)
 {
-    if (number > lines.size()) {
+    if (number > lines.size() || numberOfLine(lines, number)) {
         return {};
     }
     std::string text(trimmed(lines[number - 1]));

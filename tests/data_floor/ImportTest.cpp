@@ -93,8 +93,10 @@ TEST(Import, ChartOfPackedNumbers)
     expectMira(only(read("3 5 1975 14.15 -5.30 -77.13 28.39\n")), L"Some File");
     expectMira(only(read("3\n5\n1975\n14.15\n|-5.30\n-77.13\n28.39")), L"Some File");
     // In old files longitudes of planets stand where the offsets are otherwise.
-    expectMira(only(read("3\n5\n1975\n14.15\n-5.30\n-77.13\n28.39\n301.5\n12.25\n14.5\n")),
-               L"Some File");
+    const core::Chart old = only(read("3\n5\n1975\n14.15\n-5.30\n-77.13\n28.39\n0\n301.5\n12.25\n"
+                                      "14.5\n80.1\n200.5\n|31.75\n-1.5\n8.0\n188.0\n"));
+    expectMira(old, L"Some File");
+    EXPECT_EQ(old.place + old.identity.country, L"") << "a longitude is no place";
     EXPECT_EQ(read("3\n5\n1975\n14.75\n-5.30\n-77.13\n28.39\n").refused.size(), 1U) << "75 minutes";
     EXPECT_EQ(read("13\n5\n1975\n14.15\n-5.30\n-77.13\n28.39\n").refused.at(0).text,
               "the date 1975-13-5 does not exist");
