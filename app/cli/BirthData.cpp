@@ -21,6 +21,9 @@ using core::Result;
 
 constexpr int kLargestSaving = 3;
 
+// The value of --dst that leaves the hours to the setting daylightSavingHours.
+constexpr std::string_view kSavingInForce = "on";
+
 // "a", "a and b", "a, b and c".
 std::string listed(const std::vector<std::string>& words)
 {
@@ -77,8 +80,9 @@ Error missingError(const std::vector<std::string>& missing, const std::string& h
     return {listed(missing) + (missing.size() == 1 ? " is" : " are") + " missing" + hint};
 }
 
-Result<void> readClockOptions(const ChartOptions& options, core::Chart& chart)
+Result<void> readClockOptions(const ChartOptions& options, BirthData& birth)
 {
+    core::Chart& chart = birth.chart;
     if (const std::optional<std::string> zone = options.value("zone")) {
         const Result<double> hours = core::parseZone(*zone);
         if (!hours) {
@@ -87,9 +91,14 @@ Result<void> readClockOptions(const ChartOptions& options, core::Chart& chart)
         chart.zone = hours.value();
     }
     if (const std::optional<std::string> text = options.value("dst")) {
+        if (*text == kSavingInForce && !options.has("now")) {
+            birth.savingInForce = true;
+            return {};
+        }
         const std::optional<int> hours = core::parseInteger(*text);
         if (!hours || *hours < 0 || *hours > kLargestSaving) {
-            return Error{"saving time '" + *text + "' is not a whole number from 0 to 3"};
+            return Error{"saving time '" + *text + "' is not a whole number from 0 to 3" +
+                         (options.has("now") ? "" : " and not 'on'")};
         }
         chart.daylightSaving = *hours;
     }
@@ -253,7 +262,7 @@ Result<void> readPositionsOption(const ChartOptions& options, BirthData& birth)
 Result<void> readMomentAndPlace(const ChartOptions& options, PlaceNeed need, BirthData& birth)
 {
     birth.placeToFind = placeChoice(options);
-    Result<void> read = readClockOptions(options, birth.chart);
+    Result<void> read = readClockOptions(options, birth);
     if (read) {
         read = options.has("now") ? readPresentMoment(options, birth)
                                   : readTypedMoment(options, birth);
@@ -363,7 +372,7 @@ Result<BirthData> changeBirthData(const Arguments& arguments, const core::Chart&
     BirthData birth;
     birth.chart = chart;
     birth.hasPlace = true;
-    Result<void> read = readClockOptions(options, birth.chart);
+    Result<void> read = readClockOptions(options, birth);
     if (read) {
         read = readDateAndTime(options, birth);
     }

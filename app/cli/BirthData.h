@@ -52,6 +52,7 @@ struct BirthData
     std::optional<std::string> positionsFile; ///< then the chart has only its name
     std::optional<DatabaseChoice> database;   ///< then everything comes from there
     std::optional<PlaceChoice> placeToFind;
+    bool savingInForce = false; ///< then the setting daylightSavingHours says the saving time
     PlaceNeed need = PlaceNeed::Required;
     std::vector<std::string> warnings;
 };

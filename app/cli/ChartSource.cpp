@@ -132,6 +132,9 @@ bool completeBirthData(BirthData& birth, const core::Settings& settings, Console
     if (birth.database) {
         return takeFromDatabase(birth, settings, console, code);
     }
+    if (birth.savingInForce) {
+        birth.chart.daylightSaving = settings.daylightSavingHours;
+    }
     return !birth.placeToFind || lookUpPlace(birth, settings, console, code);
 }
 

@@ -43,7 +43,7 @@ inline constexpr std::array<OptionInfo, 8> kNativeOptions = {{
     {"--native-date", "YYYY-MM-DD", "date of birth of the native"},
     {"--native-time", "HH:MM[:SS[.f]]", "clock time of birth of the native"},
     {"--native-zone", "+H:MM[:SS]", "zone of the native's clock"},
-    {"--native-dst", "N", "saving time of the native's clock; 0 when not given"},
+    {"--native-dst", "N|on", "saving time of the native's clock; 0 when not given"},
     {"--native-place", "TEXT",
      "city and country of birth, from which zone and saving time are taken"},
     {"--native-positions", "FILE", "JSON file of positions of the native"},

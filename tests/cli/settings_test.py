@@ -107,5 +107,16 @@ class Ayanamsas(ProgramTest):
         self.assertLess(abs(ayanamsa["degrees"]), 0.006)
 
 
+class SavingTime(ProgramTest):
+    def test_saving_time_in_force_is_that_of_the_setting(self):
+        typed = self.json("positions", *EXAMPLE, "--dst", "2")
+        self.assertEqual(typed, self.json("positions", *EXAMPLE, "--dst", "on", "--set",
+                                          "daylightSavingHours=2"))
+        self.assertEqual(self.json("positions", *EXAMPLE, "--dst", "on")["input"]["daylightSaving"],
+                         1)
+        self.assertFails(2, "is not a whole number from 0 to 3 and not 'on'", "positions",
+                         *EXAMPLE, "--dst", "yes")
+
+
 if __name__ == "__main__":
     unittest.main()
