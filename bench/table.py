@@ -9,6 +9,9 @@ import pathlib
 import sys
 
 
+MICROSECONDS = {"ns": 1e-3, "us": 1.0, "ms": 1e3, "s": 1e6}
+
+
 def medians(path):
     """Name, median time in microseconds and counters of every benchmark of one program."""
     results = {}
@@ -16,7 +19,7 @@ def medians(path):
         if row.get("aggregate_name") == "median":
             # With several threads the real time of one chart is what counts.
             kind = "real_time" if "/real_time" in row["run_name"] else "cpu_time"
-            results[row["run_name"]] = (row[kind] / 1000.0, row)
+            results[row["run_name"]] = (row[kind] * MICROSECONDS[row["time_unit"]], row)
     return results
 
 
@@ -26,14 +29,14 @@ def baseline(name, results):
 
 
 def main():
-    print(f"{'program':18} {'benchmark':42} {'us':>9} {'plain/this':>11} {'allocations':>12}")
+    print(f"{'program':18} {'benchmark':42} {'us':>11} {'plain/this':>11} {'allocations':>12}")
     for path in map(pathlib.Path, sys.argv[1:]):
         results = medians(path)
         for name, (time, row) in results.items():
             plain = baseline(name, results)
             ratio = f"{plain[0] / time:.2f}" if plain else ""
             count = f"{row['allocations']:.0f}" if "allocations" in row else ""
-            print(f"{path.stem:18} {name:42} {time:9.2f} {ratio:>11} {count:>12}")
+            print(f"{path.stem:18} {name:42} {time:11.2f} {ratio:>11} {count:>12}")
         sky = results.get("positionsAndHouses/preciseMoon:1")
         signs = results.get("signAnalysis")
         if sky and signs:
