@@ -46,7 +46,7 @@ int stepInSign(double fraction, bool even)
 
 int stepInPart(double fraction)
 {
-    return 2 * int(std::floor((1.0 - fraction) * 3.0));
+    return 2 * int((1.0 - fraction) * 3.0); // the fraction is never above 1
 }
 
 double distanceToBoundary(double fraction)
@@ -59,10 +59,11 @@ double distanceToBoundary(double fraction)
 Part partOf(double value, int division, bool evenSign, const core::Settings& settings)
 {
     const double x = value * division * (1.0 / 30.0);
-    double whole = 0.0;
-    const double fraction = std::modf(x, &whole);
-    const double minutes = std::floor(distanceToBoundary(fraction) * 1800.0 / division);
-    return {int(whole),
+    // x is never negative, so cutting to a whole number is exact and the same as rounding down.
+    const int whole = int(x);
+    const double fraction = x - whole;
+    const double minutes = int(distanceToBoundary(fraction) * 1800.0 / division);
+    return {whole,
             fraction,
             fraction * 30.0,
             division == 1 ? stepInSign(fraction, evenSign) : stepInPart(fraction),
@@ -74,8 +75,10 @@ Part partOf(double value, int division, bool evenSign, const core::Settings& set
 // Parts are counted through the whole zodiac from Aries.
 Divided continuous(const Place& place, int division, const core::Settings& settings)
 {
-    const Part part = partOf(place.longitude, division, place.even, settings);
-    return {part.index + 1, part};
+    // Made in place: a copy of the part would cost as much as making it.
+    Divided result = {0, partOf(place.longitude, division, place.even, settings)};
+    result.sign = result.part.index + 1;
+    return result;
 }
 
 Divided hora(const Place& place, const core::Settings& settings)
@@ -170,11 +173,11 @@ Divided trimshamsa(const Place& place, const core::Settings& settings)
 Divided navaDwadasha(const Place& place, const core::Settings& settings)
 {
     const double x = place.longitude * 3.6;
-    double whole = 0.0;
-    const double fraction = std::modf(x, &whole);
+    const int whole = int(x);
+    const double fraction = x - whole;
     const double minutes = std::floor(distanceToBoundary(fraction) * 1800.0 / 108.0);
-    return {int(whole) % 12 + place.navamshaSign,
-            {int(whole), fraction, fraction * 30.0, stepInPart(fraction), 30.0 / 108.0, minutes,
+    return {whole % 12 + place.navamshaSign,
+            {whole, fraction, fraction * 30.0, stepInPart(fraction), 30.0 / 108.0, minutes,
              minutes < settings.sandhiMinutes}};
 }
 
@@ -184,8 +187,9 @@ Divided divide(const Place& place, int varga, const core::Settings& settings)
     const int e = place.even ? 1 : 0;
     const int division = vargaDivision(varga);
     const auto counted = [&](auto signOfPart) {
-        const Part part = partOf(place.degreeInSign, division, place.even, settings);
-        return Divided{signOfPart(part.index), part};
+        Divided result = {0, partOf(place.degreeInSign, division, place.even, settings)};
+        result.sign = signOfPart(result.part.index);
+        return result;
     };
     switch (varga) {
     case core::kRashi: {

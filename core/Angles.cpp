@@ -59,18 +59,6 @@ double Reflect180(double degrees, bool& wasReflected)
     return wasReflected ? 360.0 - reduced : reduced;
 }
 
-int ModFrom(int n, int lo, int x)
-{
-    const int remainder = x % n;
-    return remainder < lo ? remainder + n : remainder;
-}
-
-int SignOf12(int n)
-{
-    const int remainder = n % 12;
-    return remainder < 1 ? remainder + 12 : remainder;
-}
-
 bool IsLeapYear(int year)
 {
     return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;

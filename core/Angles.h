@@ -29,13 +29,21 @@ namespace kestrav::core
 
 /// x mod n with the sign of x, lifted by n once when it is below `lo`. ModFrom(27, 0, d) counts
 /// nakshatras, ModFrom(12, 0, d) signs.
-[[nodiscard]] int ModFrom(int n, int lo, int x);
+[[nodiscard]] constexpr int ModFrom(int n, int lo, int x)
+{
+    const int remainder = x % n;
+    return remainder < lo ? remainder + n : remainder;
+}
 
 /// Any sum of signs brought into 1..12; multiples of 12 give 12.
-[[nodiscard]] int SignOf12(int n);
+[[nodiscard]] constexpr int SignOf12(int n)
+{
+    const int remainder = n % 12;
+    return remainder < 1 ? remainder + 12 : remainder;
+}
 
 /// The name under which chart analysis knows SignOf12.
-[[nodiscard]] inline int norm12(int n)
+[[nodiscard]] constexpr int norm12(int n)
 {
     return SignOf12(n);
 }
