@@ -100,6 +100,7 @@ void storeArudhaSigns(core::Chart& chart, int varga, const core::Settings& setti
         arudhaSigns(signView(chart, varga, settings), settings.coLords);
     const auto store = [&](int point, int sign) {
         if (chart.computed(point) && sign != 0) {
+            chart.hasPlacements = true;
             at(at(chart.vargas, varga), point).sign = sign;
         }
     };

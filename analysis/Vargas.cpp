@@ -83,7 +83,8 @@ Divided continuous(const Place& place, int division, const core::Settings& setti
 
 Divided hora(const Place& place, const core::Settings& settings)
 {
-    Part part = partOf(place.degreeInSign, 2, place.even, settings);
+    Divided result = {0, partOf(place.degreeInSign, 2, place.even, settings)};
+    Part& part = result.part;
     const bool firstHalf = part.index == 0;
     switch (settings.horaMethod) {
     case 1:
@@ -93,19 +94,22 @@ Divided hora(const Place& place, const core::Settings& settings)
         constexpr std::array<bool, 13> kSeventhFirst = {
             false, true, false, true, false, false, true, false, true, false, true, true, false};
         const bool seventh = kSeventhFirst[std::size_t(place.rashi)] == firstHalf;
-        return {seventh ? place.rashi + 6 : place.rashi, part};
+        result.sign = seventh ? place.rashi + 6 : place.rashi;
+        return result;
     }
     case 3: {
         constexpr std::array<int, 24> kSigns = {8, 1, 2, 7, 6,  3, 4,  5,  5,  4,  3, 6,
                                                 7, 2, 1, 8, 12, 9, 10, 11, 11, 10, 9, 12};
-        return {kSigns[std::size_t(std::floor(place.longitude * (1.0 / 15.0)))], part};
+        result.sign = kSigns[std::size_t(place.longitude * (1.0 / 15.0))];
+        return result;
     }
     default:
         if (place.even) {
             part.index = 1 - part.index;
             part.position = kReversedStart - part.position;
         }
-        return {5 - part.index, part};
+        result.sign = 5 - part.index;
+        return result;
     }
 }
 
@@ -163,7 +167,7 @@ Divided trimshamsa(const Place& place, const core::Settings& settings)
     }
     const double width = row.widths[i];
     const double fraction = rest / width;
-    const double minutes = std::floor(distanceToBoundary(fraction) * width * 60.0);
+    const double minutes = int(distanceToBoundary(fraction) * width * 60.0);
     return {row.signs[i],
             {int(i), fraction, fraction * 30.0, stepInPart(fraction), width, minutes,
              minutes < settings.sandhiMinutes}};
@@ -175,7 +179,7 @@ Divided navaDwadasha(const Place& place, const core::Settings& settings)
     const double x = place.longitude * 3.6;
     const int whole = int(x);
     const double fraction = x - whole;
-    const double minutes = std::floor(distanceToBoundary(fraction) * 1800.0 / 108.0);
+    const double minutes = int(distanceToBoundary(fraction) * 1800.0 / 108.0);
     return {whole % 12 + place.navamshaSign,
             {whole, fraction, fraction * 30.0, stepInPart(fraction), 30.0 / 108.0, minutes,
              minutes < settings.sandhiMinutes}};
@@ -221,7 +225,7 @@ Divided divide(const Place& place, int varga, const core::Settings& settings)
         return counted([&](int k) { return ((r - 1) % 3) * 4 + k + 1; });
     case core::kShashtiamsha:
         // The sign and the position come from two roundings of the same degree.
-        return counted([&](int) { return int(std::floor(place.degreeInSign * 2.0)) % 12 + r; });
+        return counted([&](int) { return int(place.degreeInSign * 2.0) % 12 + r; });
     case core::kRudramsha:
         return rudramsha(place, settings);
     case core::kNavaDwadasha:
@@ -248,6 +252,7 @@ bool computeVarga(core::Chart& chart, int varga, int point, const core::Settings
 {
     const VargaDivided divided = divideInVarga(chart, varga, point, settings);
     core::VargaPlacement& placement = at(at(chart.vargas, varga), point);
+    chart.hasPlacements = true;
     placement.sign = divided.sign;
     placement.strengthStep = divided.part.strengthStep;
     placement.position = divided.part.position;

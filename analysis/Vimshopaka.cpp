@@ -127,6 +127,7 @@ void computeVimshopaka(core::Chart& chart, const core::Settings& settings)
 {
     chart.vimshopaka = {};
     chart.vimshopakaPositional = {};
+    chart.hasPlacements = true;
     for (int varga = 0; varga < core::kScoredVargas; ++varga) {
         for (int point = 0; point <= core::kKetu; ++point) {
             if (!chart.computed(point)) {

@@ -16,8 +16,11 @@ void Chart::clearPoints()
     hasSandhis = false;
     houseSystem = -1;
     cuspsComplete = false;
-    vargas = {};
-    nearBoundary = {};
+    if (hasPlacements) {
+        vargas = {};
+        nearBoundary = {};
+        hasPlacements = false;
+    }
     compound = {};
     vimshopaka = {};
     vimshopakaPositional = {};

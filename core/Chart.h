@@ -107,6 +107,9 @@ struct Chart
     // What the analysis of the signs fills.
     VargaArray<PointArray<VargaPlacement>> vargas = {};
     VargaArray<PointArray<bool>> nearBoundary = {}; ///< placements close to a part's boundary
+    /// Whether a placement was filled since the points were cleared. The two tables above are so
+    /// large that clearing them costs a tenth of the positions of a chart.
+    bool hasPlacements = false;
     /// Compound relationship in the rashi of planet (row) towards planet, -2 to 2, 3 for itself;
     /// indexes 1 to 7, row and column 0 are unused.
     std::array<std::array<int, 8>, 8> compound = {};
