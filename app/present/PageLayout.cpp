@@ -19,7 +19,8 @@ constexpr std::string_view kHead = "Kestrav page 1";
 
 constexpr std::array<std::string_view, 5> kMediumNames = {"screen", "A4", "A4-wide", "Letter",
                                                           "Letter-wide"};
-constexpr std::array<std::string_view, 3> kKindNames = {"diagram", "table", "text"};
+constexpr std::array<std::string_view, 4> kKindNames = {"diagram", "table", "text", "view"};
+constexpr std::array<std::string_view, 3> kChartNames = {"natal", "second", "moment"};
 
 constexpr int kGreatestWeight = 100;
 
@@ -39,7 +40,19 @@ core::Result<std::vector<int>> readWeights(const DefinitionLine& line)
     return weights;
 }
 
-core::Result<void> readDiagramPanel(const DefinitionLine& line, Panel& panel)
+std::vector<std::string_view> keysOf(PanelKind kind)
+{
+    std::vector<std::string_view> keys = {"row", "column", "rows", "columns"};
+    if (kind == PanelKind::Diagram || kind == PanelKind::Table) {
+        keys.insert(keys.end(), {"varga", "chart", "source"});
+    }
+    if (kind == PanelKind::Diagram) {
+        keys.insert(keys.end(), {"style", "outer"});
+    }
+    return keys;
+}
+
+core::Result<void> readStyle(const DefinitionLine& line, Panel& panel)
 {
     if (const std::optional<std::string> style = line.option("style")) {
         panel.style = findDiagramStyle(*style);
@@ -47,21 +60,42 @@ core::Result<void> readDiagramPanel(const DefinitionLine& line, Panel& panel)
             return definitionError(line, "there is no diagram style '" + *style + "'");
         }
     }
-    if (line.words.size() != 1) {
-        return definitionError(line, "a diagram has no name");
+    return {};
+}
+
+core::Result<void> readVarga(const DefinitionLine& line, Panel& panel)
+{
+    if (const std::optional<std::string> text = line.option("varga")) {
+        const std::optional<int> varga = analysis::findVarga(*text);
+        if (!varga) {
+            return definitionError(line, "there is no divisional chart '" + *text + "'");
+        }
+        panel.varga = *varga;
     }
     return {};
 }
 
-core::Result<int> vargaOption(const DefinitionLine& line)
+// "source" is another word for "chart".
+core::Result<void> readCharts(const DefinitionLine& line, Panel& panel)
 {
-    const std::optional<std::string> text = line.option("varga");
-    if (!text) {
-        return core::kRashi;
+    for (const char* const key : {"chart", "source", "outer"}) {
+        const std::optional<std::string> text = line.option(key);
+        if (!text) {
+            continue;
+        }
+        const auto* const found = std::find(kChartNames.begin(), kChartNames.end(), *text);
+        if (found == kChartNames.end()) {
+            return definitionError(line, std::string(key) + "=" + *text +
+                                             " is not natal, second or moment");
+        }
+        const auto chart = static_cast<PanelChart>(found - kChartNames.begin());
+        if (key == std::string_view("outer")) {
+            panel.outer = chart;
+        } else {
+            panel.chart = chart;
+        }
     }
-    const std::optional<int> varga = analysis::findVarga(*text);
-    return varga ? core::Result<int>(*varga)
-                 : definitionError(line, "there is no divisional chart '" + *text + "'");
+    return {};
 }
 
 // Rows and columns of files count from 1.
@@ -91,26 +125,22 @@ core::Result<Panel> readPanel(const DefinitionLine& line)
                                  ? kKindNames.end()
                                  : std::find(kKindNames.begin(), kKindNames.end(), line.words[0]);
     if (kind == kKindNames.end()) {
-        return definitionError(line, "a panel is a diagram, a table or a text");
+        return definitionError(line, "a panel is a diagram, a table, a text or a view");
     }
     Panel panel;
     panel.kind = static_cast<PanelKind>(kind - kKindNames.begin());
-    const core::Result<void> keys =
-        checkOptionKeys(line, {"row", "column", "rows", "columns", "varga", "style"});
+    const core::Result<void> keys = checkOptionKeys(line, keysOf(panel.kind));
     if (!keys) {
         return keys.error();
     }
-    if (const core::Result<void> cells = readCells(line, panel); !cells) {
-        return cells.error();
+    for (const auto& read : {readCells, readVarga, readStyle, readCharts}) {
+        if (const core::Result<void> done = read(line, panel); !done) {
+            return done.error();
+        }
     }
-    const core::Result<int> varga = vargaOption(line);
-    if (!varga) {
-        return varga.error();
-    }
-    panel.varga = varga.value();
     if (panel.kind == PanelKind::Diagram) {
-        const core::Result<void> diagram = readDiagramPanel(line, panel);
-        return diagram ? core::Result<Panel>(std::move(panel)) : diagram.error();
+        return line.words.size() == 1 ? core::Result<Panel>(std::move(panel))
+                                      : definitionError(line, "a diagram has no name");
     }
     if (line.words.size() != 2) {
         return definitionError(line, "a " + line.words[0] + " needs one name");
@@ -148,6 +178,11 @@ core::Result<void> readLine(const DefinitionLine& line, PageLayout& layout)
     return {};
 }
 
+std::string chartName(PanelChart chart)
+{
+    return std::string(kChartNames.at(std::size_t(chart)));
+}
+
 std::string panelName(const Panel& panel)
 {
     std::string name(kKindNames.at(std::size_t(panel.kind)));
@@ -156,18 +191,37 @@ std::string panelName(const Panel& panel)
            std::to_string(panel.column + 1);
 }
 
-core::Result<void> checkContent(const Panel& panel)
+bool hasContent(const Panel& panel)
 {
-    const auto& texts = panelTexts();
-    const bool known = panel.kind == PanelKind::Diagram ||
-                       (panel.kind == PanelKind::Table && findTable(panel.content) != nullptr) ||
-                       (panel.kind == PanelKind::Text &&
-                        std::find(texts.begin(), texts.end(), panel.content) != texts.end());
-    if (!known) {
+    const auto among = [&](const std::vector<std::string_view>& names) {
+        return std::find(names.begin(), names.end(), panel.content) != names.end();
+    };
+    switch (panel.kind) {
+    case PanelKind::Diagram:
+        return true;
+    case PanelKind::Table:
+        return findTable(panel.content) != nullptr;
+    case PanelKind::Text:
+        return among(panelTexts());
+    case PanelKind::View:
+        return among(panelViews());
+    }
+    return false;
+}
+
+core::Result<void> checkContent(const Panel& panel, PageMedium medium)
+{
+    if (!hasContent(panel)) {
         return core::Error{"there is no " + panelName(panel)};
+    }
+    if (panel.kind == PanelKind::View && medium != PageMedium::Screen) {
+        return core::Error{"the " + panelName(panel) + " is for the screen, the page for paper"};
     }
     if (panel.varga < 0 || panel.varga >= core::kVargaCount) {
         return core::Error{"the " + panelName(panel) + " has no divisional chart"};
+    }
+    if (panel.outer == panel.chart) {
+        return core::Error{"the " + panelName(panel) + " has its own chart around itself"};
     }
     return {};
 }
@@ -203,6 +257,17 @@ const std::vector<std::string_view>& panelTexts()
 {
     static const std::vector<std::string_view> kTexts = {"balance", "panchanga", "yogas", "notes"};
     return kTexts;
+}
+
+const std::vector<std::string_view>& panelViews()
+{
+    static const std::vector<std::string_view> kViews = {
+        "dasha-tree",      "life-bar",   "panchanga",  "panchanga-strips",
+        "inspector",       "varga-grid", "bindu-grid", "transit-listing",
+        "ephemeris-strip", "ephemeris",  "yoga-tree",  "natives",
+        "research",        "compare",    "events",     "trial-times",
+        "report",          "world-map",  "notes",      "heat"};
+    return kViews;
 }
 
 core::Result<PageLayout> readPageLayout(std::string_view bytes)
@@ -242,6 +307,8 @@ std::string writePageLayout(const PageLayout& layout)
         text += panel.columns == 1 ? "" : " columns=" + std::to_string(panel.columns);
         text += panel.varga == core::kRashi ? "" : " varga=" + std::to_string(panel.varga);
         text += panel.style ? " style=" + std::string(diagramStyleName(*panel.style)) : "";
+        text += panel.chart == PanelChart::Natal ? "" : " chart=" + chartName(panel.chart);
+        text += panel.outer ? " outer=" + chartName(*panel.outer) : "";
         text += "\n";
     }
     return text;
@@ -261,7 +328,7 @@ core::Result<void> checkPageLayout(const PageLayout& layout)
     const std::size_t width = layout.columnWeights.size();
     std::vector<bool> covered(layout.rowWeights.size() * width, false);
     for (const Panel& panel : layout.panels) {
-        if (const core::Result<void> content = checkContent(panel); !content) {
+        if (const core::Result<void> content = checkContent(panel, layout.medium); !content) {
             return content;
         }
         if (!inside(panel, layout)) {

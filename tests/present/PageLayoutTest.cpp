@@ -72,6 +72,31 @@ TEST(PageLayouts, TheDeliveredOnesAreReadAndWrittenBack)
     EXPECT_TRUE(paper);
 }
 
+TEST(PageLayouts, ViewsAndOtherChartsAreReadAndWrittenBack)
+{
+    std::string file = "Kestrav page 1\nname Work\nrows 1 1\ncolumns 1 1\n"
+                       "panel diagram row=1 column=1 outer=moment\n"
+                       "panel diagram row=1 column=2 chart=second outer=natal\n"
+                       "panel table positions row=2 column=1 source=moment\n"
+                       "panel view ephemeris-strip row=2 column=2\n";
+    const core::Result<PageLayout> read = readPageLayout(file);
+    ASSERT_TRUE(read) << read.error().text();
+    const std::vector<Panel>& panels = read.value().panels;
+    EXPECT_EQ(panels[0].chart, PanelChart::Natal);
+    EXPECT_EQ(panels[0].outer, PanelChart::Moment);
+    EXPECT_EQ(panels[1].chart, PanelChart::Second);
+    EXPECT_EQ(panels[1].outer, PanelChart::Natal);
+    EXPECT_EQ(panels[2].chart, PanelChart::Moment);
+    EXPECT_FALSE(panels[2].outer);
+    EXPECT_EQ(panels[3].kind, PanelKind::View);
+    EXPECT_EQ(panels[3].content, "ephemeris-strip");
+    EXPECT_EQ(readPageLayout(writePageLayout(read.value())).value(), read.value());
+
+    file.insert(file.find("rows"), "medium A4\n");
+    EXPECT_EQ(readPageLayout(file).error().message, "the view ephemeris-strip at row 2, column 2 "
+                                                    "is for the screen, the page for paper");
+}
+
 TEST(PageLayouts, TheCheckerNamesEachKindOfFault)
 {
     EXPECT_EQ(faultOf([](PageLayout&) {}), "");
@@ -88,6 +113,10 @@ TEST(PageLayouts, TheCheckerNamesEachKindOfFault)
               "there is no text positions at row 2, column 1");
     EXPECT_EQ(faultOf([](PageLayout& page) { page.panels[0].varga = 21; }),
               "the diagram at row 1, column 1 has no divisional chart");
+    EXPECT_EQ(faultOf([](PageLayout& page) { page.panels[1].kind = PanelKind::View; }),
+              "there is no view positions at row 2, column 1");
+    EXPECT_EQ(faultOf([](PageLayout& page) { page.panels[0].outer = PanelChart::Natal; }),
+              "the diagram at row 1, column 1 has its own chart around itself");
     for (const int row : {-1, 1, 1'000'000'000}) {
         EXPECT_NE(faultOf([&](PageLayout& page) {
                       page.panels[1].row = row;
@@ -108,13 +137,17 @@ TEST(PageLayouts, FaultyFilesAreRefusedAtTheirLine)
         {"rows 1 0", "'0' is not a whole number 1 to 100", 2},
         {"rows", "'rows' needs 1 to 12 weights", 2},
         {"rows 1 1 1 1 1 1 1 1 1 1 1 1 1", "'rows' needs 1 to 12 weights", 2},
-        {"# note\n\npanel picture", "a panel is a diagram, a table or a text", 4},
+        {"# note\n\npanel picture", "a panel is a diagram, a table, a text or a view", 4},
         {"panel diagram positions", "a diagram has no name", 2},
         {"panel table", "a table needs one name", 2},
         {"panel diagram style=west", "there is no diagram style 'west'", 2},
         {"panel diagram varga=D-11x", "there is no divisional chart 'D-11x'", 2},
         {"panel diagram row=0", "row=0 is not a whole number 1 to 12", 2},
         {"panel diagram colour=red", "'colour' is no option of 'panel' here", 2},
+        {"panel view", "a view needs one name", 2},
+        {"panel view notes varga=5", "'varga' is no option of 'panel' here", 2},
+        {"panel table positions outer=moment", "'outer' is no option of 'panel' here", 2},
+        {"panel table positions chart=third", "chart=third is not natal, second or moment", 2},
         {"colour red", "'colour' is not known", 2},
         {"name A\nrows 1\ncolumns 1", "no panel covers row 1, column 1", 0},
     };
