@@ -73,6 +73,43 @@ struct Settings
     int atlasVersion = 0;
     std::string atlasPath = {}; ///< UTF-8; empty means no atlas
 
+    // Diagrams.
+    int diagramStyle = 0;
+    int diagramDegrees = 1;
+    int diagramLabels = 1;
+    int diagramNameLetters = 2;
+    bool diagramMarks = true;
+    bool diagramArudhas = false;
+    bool diagramUpagrahas = false;
+    bool diagramLagnas = false;
+    bool diagramOuterPlanets = false;
+    int circleBounds = 0;
+    bool navamshaRing = false;
+
+    // The window.
+    int colourScheme = 0;
+    int fontPercent = 100;
+    bool quickTips = true;
+    bool restoreSession = true;
+    bool wizardDone = false;
+
+    // Confirmations, as the Confirm menu switches them.
+    bool confirmShortYear = true;
+    bool confirmNowRecord = true;
+    bool confirmDelete = true;
+    bool confirmGroups = true;
+    bool confirmLeave = true;
+    bool confirmRefresh = true;
+    bool warnAtlasValues = true;
+
+    // The place of the Now chart and of transits.
+    std::string nowCity = {};     ///< UTF-8; empty while no place was chosen
+    std::string nowCountry = {};  ///< UTF-8
+    double nowLongitude = 0.0;    ///< degrees, east positive
+    double nowLatitude = 0.0;     ///< degrees
+    double nowZone = 0.0;         ///< hours east of Greenwich
+    std::string nowZoneName = {}; ///< of the zone table; empty where only nowZone is known
+
     /// The editable definitions from which ayanamsaRow chooses.
     AyanamsaTable ayanamsaTable = factoryAyanamsaTable();
 

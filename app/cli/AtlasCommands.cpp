@@ -2,13 +2,14 @@
 
 #include "app/cli/AtlasPlaces.h"
 #include "app/cli/BirthData.h"
-#include "app/cli/Clock.h"
 #include "app/cli/CommandSettings.h"
 #include "app/cli/Console.h"
 #include "app/cli/JsonValues.h"
 #include "app/cli/SharedOptions.h"
 #include "app/cli/TextTable.h"
 #include "app/cli/TextValues.h"
+#include "app/present/BirthRecord.h"
+#include "app/present/Clock.h"
 #include "core/FileText.h"
 #include "core/NumberText.h"
 #include "data/BirthTexts.h"
@@ -106,7 +107,7 @@ Result<Moment> readMoment(const Arguments& arguments)
         if (arguments.has("--date") || arguments.has("--time")) {
             return Error{"--now cannot stand beside --date and --time"};
         }
-        const Result<double> now = presentMoment();
+        const Result<double> now = present::presentMoment();
         if (!now) {
             return now.error();
         }
@@ -240,7 +241,7 @@ ExitCode PlaceZoneCommand::run(const Arguments& arguments, Console& console) con
         answer = answerAtMoment(*places, place, *moment.value().unixSeconds);
         clock.zone = answer.time.zone;
         clock.daylightSaving = answer.time.daylightSaving;
-        setLocalMoment(clock, *moment.value().unixSeconds);
+        present::setLocalMoment(clock, *moment.value().unixSeconds);
     }
     warnOfPlaceTime(answer.time, console);
     if (!arguments.has("--json")) {

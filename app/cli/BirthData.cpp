@@ -1,6 +1,7 @@
 #include "app/cli/BirthData.h"
 
-#include "app/cli/Clock.h"
+#include "app/present/BirthRecord.h"
+#include "app/present/Clock.h"
 #include "core/FileText.h"
 #include "core/NumberText.h"
 
@@ -150,7 +151,7 @@ Result<void> readPresentMoment(const ChartOptions& options, BirthData& birth)
     if (options.has("date") || options.has("time")) {
         return Error{"--now cannot stand beside --date and --time"};
     }
-    const Result<double> moment = presentMoment();
+    const Result<double> moment = present::presentMoment();
     if (!moment) {
         return moment.error();
     }
@@ -160,13 +161,13 @@ Result<void> readPresentMoment(const ChartOptions& options, BirthData& birth)
         return {};
     }
     if (!options.has("zone")) {
-        const SystemZone system = systemZoneAt(moment.value());
+        const present::SystemZone system = present::systemZoneAt(moment.value());
         chart.zone = system.zone;
         if (!options.has("dst")) {
             chart.daylightSaving = system.daylightSaving;
         }
     }
-    setLocalMoment(chart, moment.value());
+    present::setLocalMoment(chart, moment.value());
     return {};
 }
 
@@ -310,18 +311,6 @@ Result<std::wstring> readLabel(const Arguments& arguments, const std::string& op
         return Error{option + " holds a line end or another control character"};
     }
     return text;
-}
-
-void setLocalMoment(core::Chart& chart, double unixSeconds)
-{
-    const double local = unixSeconds + (chart.zone + chart.daylightSaving) * 3600.0;
-    const double days = std::floor(local / 86400.0);
-    core::DateTimeRecord& record = chart.time;
-    record.year = 1970;
-    record.month = 1;
-    record.day = 1;
-    core::addDays(record, int(days));
-    record.localTime = (local - days * 86400.0) / 3600.0;
 }
 
 Result<DatabaseChoice> readDatabaseChoice(const Arguments& arguments, std::string_view prefix)

@@ -78,7 +78,4 @@ struct BirthData
 [[nodiscard]] core::Result<std::wstring> readLabel(const Arguments& arguments,
                                                    const std::string& option);
 
-/// Sets date and clock time from a moment in seconds since 1970 and the chart's zone.
-void setLocalMoment(core::Chart& chart, double unixSeconds);
-
 } // namespace kestrav::cli

@@ -2,6 +2,7 @@
 
 #include "app/cli/AtlasPlaces.h"
 #include "app/cli/Console.h"
+#include "app/present/BirthRecord.h"
 #include "core/FileText.h"
 #include "data/BirthTexts.h"
 #include "data/Chooser.h"
@@ -15,9 +16,6 @@ namespace kestrav::cli
 
 namespace
 {
-
-constexpr int kLargestYear = 99999;
-constexpr int kLargestSaving = 3;
 
 std::string lineText(const DatabaseChoice& choice, std::size_t line)
 {
@@ -56,7 +54,7 @@ bool takeFromDatabase(BirthData& birth, const core::Settings& settings, Console&
                       ExitCode& code)
 {
     const DatabaseChoice choice = *std::exchange(birth.database, std::nullopt);
-    data::ChartDatabase database(dateOrder(settings));
+    data::ChartDatabase database(present::dateOrder(settings));
     code = ExitCode::Failed;
     if (data::openDatabase(database, choice.file, console) != data::Outcome::Done) {
         return false;
@@ -67,7 +65,7 @@ bool takeFromDatabase(BirthData& birth, const core::Settings& settings, Console&
     }
     code = ExitCode::Failed;
     readLineInOrder(database, *line, birth.chart);
-    const std::string problem = birthProblem(birth.chart);
+    const std::string problem = present::birthProblem(birth.chart);
     if (!problem.empty()) {
         console.error(lineText(choice, *line) + problem);
         return false;
@@ -78,7 +76,7 @@ bool takeFromDatabase(BirthData& birth, const core::Settings& settings, Console&
         console.error(lineText(choice, *line) + "the chart has no longitude and latitude");
         return false;
     }
-    for (const std::string& text : unreadTexts(birth.chart)) {
+    for (const std::string& text : present::unreadTexts(birth.chart)) {
         birth.warnings.push_back(lineText(choice, *line) + text);
     }
     code = ExitCode::Done;
@@ -111,7 +109,7 @@ bool lookUpPlace(BirthData& birth, const core::Settings& settings, Console& cons
         choice.daylightSaving ? answer.time.daylightSaving : chart.daylightSaving;
     birth.hasPlace = true;
     if (choice.moment) {
-        setLocalMoment(chart, *choice.moment);
+        present::setLocalMoment(chart, *choice.moment);
     }
     if (choice.zone || choice.daylightSaving) {
         warnOfPlaceTime(answer.time, console);
@@ -120,11 +118,6 @@ bool lookUpPlace(BirthData& birth, const core::Settings& settings, Console& cons
 }
 
 } // namespace
-
-data::DateOrder dateOrder(const core::Settings& settings)
-{
-    return settings.monthFirst ? data::DateOrder::MonthFirst : data::DateOrder::DayFirst;
-}
 
 bool completeBirthData(BirthData& birth, const core::Settings& settings, Console& console,
                        ExitCode& code)
@@ -170,48 +163,6 @@ void readLineInOrder(data::ChartDatabase& database, std::size_t line, core::Char
     }
     database.setOrder(order);
     database.read(line, chart);
-}
-
-std::string birthProblem(const core::Chart& chart)
-{
-    const core::DateTimeRecord& time = chart.time;
-    const bool exists = time.year >= -kLargestYear && time.year <= kLargestYear &&
-                        core::dateExists(time.year, time.month, time.day);
-    if (!exists) {
-        return "the date " + std::to_string(time.year) + "-" + std::to_string(time.month) + "-" +
-               std::to_string(time.day) + " does not exist";
-    }
-    if (chart.daylightSaving < 0 || chart.daylightSaving > kLargestSaving) {
-        return "saving time " + std::to_string(chart.daylightSaving) +
-               " is not a whole number from 0 to 3";
-    }
-    return {};
-}
-
-std::vector<std::string> unreadTexts(const core::Chart& chart)
-{
-    std::vector<std::string> texts;
-    const auto test = [&](const std::string& name, const std::wstring& text, bool understood) {
-        if (!understood) {
-            const std::string what =
-                text.empty() ? " is missing" : " '" + core::toUtf8(text) + "' is not understood";
-            texts.push_back("the " + name + what + " and taken as 0");
-        }
-    };
-    test("time", chart.timeText, data::readTimeText(chart.timeText).has_value());
-    test("zone", chart.zoneText, data::readZoneText(chart.zoneText).has_value());
-    const core::Identity& identity = chart.identity;
-    test("longitude", identity.longitudeText,
-         data::readLongitudeText(identity.longitudeText).has_value());
-    test("latitude", identity.latitudeText,
-         data::readLatitudeText(identity.latitudeText).has_value());
-    return texts;
-}
-
-std::wstring placeLabel(const core::Chart& chart)
-{
-    const std::wstring& country = chart.identity.country;
-    return chart.place + (chart.place.empty() || country.empty() ? L"" : L", ") + country;
 }
 
 } // namespace kestrav::cli

@@ -14,9 +14,6 @@
 namespace kestrav::cli
 {
 
-/// The date order that the settings put in force.
-[[nodiscard]] data::DateOrder dateOrder(const core::Settings& settings);
-
 /// Takes the chart from its database, or looks its place up, and fills the birth data in; what was
 /// typed stays. False after a failure, which has been reported with its exit code in `code`.
 [[nodiscard]] bool completeBirthData(BirthData& birth, const core::Settings& settings,
@@ -30,15 +27,5 @@ namespace kestrav::cli
 
 /// Parses a line in the date order that is in force for it, which lines before it can flip.
 void readLineInOrder(data::ChartDatabase& database, std::size_t line, core::Chart& chart);
-
-/// Why a chart cannot be computed: a date that does not exist, saving time out of range. Empty when
-/// it can.
-[[nodiscard]] std::string birthProblem(const core::Chart& chart);
-
-/// The texts of time, zone, longitude and latitude that are not understood, in words.
-[[nodiscard]] std::vector<std::string> unreadTexts(const core::Chart& chart);
-
-/// "Portland, Oregon": the place with its country or state.
-[[nodiscard]] std::wstring placeLabel(const core::Chart& chart);
 
 } // namespace kestrav::cli

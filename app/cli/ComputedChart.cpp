@@ -1,8 +1,6 @@
 #include "app/cli/ComputedChart.h"
 
 #include "analysis/AnalyseChart.h"
-#include "analysis/ComputeChart.h"
-#include "analysis/Motion.h"
 #include "analysis/SignPositions.h"
 #include "analysis/SpecialPoints.h"
 #include "analysis/StorePoint.h"
@@ -10,8 +8,8 @@
 #include "app/cli/CommandSettings.h"
 #include "app/cli/Console.h"
 #include "app/cli/PositionsFile.h"
+#include "app/present/BirthRecord.h"
 #include "astro/Houses.h"
-#include "astro/RiseSet.h"
 #include "core/FileText.h"
 #include "core/Locations.h"
 
@@ -47,28 +45,6 @@ void reportLoadFailure(const astro::LoadResult& loaded, Console& console)
     const bool nowhere = loaded.error.message == core::toUtf8(astro::kMissingDataText);
     console.notice(std::wstring(astro::kMissingDataCaption),
                    nowhere ? text + L" is in none of the folders " + foldersLookedIn() : text);
-}
-
-void computeFromBirthData(ComputedChart& computed, astro::EphemerisContext& context)
-{
-    core::Chart& chart = computed.chart;
-    if (!computed.hasPlace) {
-        analysis::computePositions(chart, computed.settings, context);
-        analysis::computeMotions(chart, context);
-        chart.weekday = core::Weekday(chart);
-        analysis::AnalyseChart(chart, computed.settings, context);
-        // Whether it is night depends on the place, and with it every saham.
-        for (const int point : {core::kSaham2, core::kSaham3}) {
-            core::at(chart.degreeInSign, point) = core::kNotComputed;
-        }
-        return;
-    }
-    analysis::ComputeChart(chart, computed.settings, context);
-    const astro::Observer observer = astro::observerOf(chart);
-    computed.day = chart.vedicDay;
-    computed.upperCulmination =
-        astro::sunEvent(context, chart.time, observer, astro::HorizonEvent::UpperCulmination);
-    analysis::AnalyseChart(chart, computed.settings, context);
 }
 
 void storePositions(core::Chart& chart, const GivenPositions& positions)
@@ -152,12 +128,12 @@ std::optional<ComputedChart> computeChart(const CallData& call, BirthData birth,
     }
     ComputedChart computed;
     computed.chart = std::move(birth.chart);
-    computed.chart.place = placeLabel(computed.chart);
+    computed.chart.place = present::placeLabel(computed.chart);
     computed.settings = call.settings;
     computed.hasPlace = birth.hasPlace;
     astro::EphemerisContext context(call.data.series);
     if (!birth.positionsFile) {
-        computeFromBirthData(computed, context);
+        present::computeFromBirthData(computed, context);
         return computed;
     }
     computed.positionsFile = *birth.positionsFile;

@@ -1,7 +1,7 @@
 #include "app/cli/DashaCommandOptions.h"
 
-#include "app/cli/Clock.h"
 #include "app/cli/TextValues.h"
+#include "app/present/Clock.h"
 #include "core/FileText.h"
 #include "core/Points.h"
 #include "timing/DashaOptions.h"
@@ -339,7 +339,7 @@ Result<timing::DashaSpan> dashaSpan(const DashaRequest& request, const Arguments
 core::Result<void> readAt(const std::string& text, DashaRequest& request)
 {
     if (text == "now") {
-        const Result<double> moment = presentMoment();
+        const Result<double> moment = present::presentMoment();
         if (!moment) {
             return moment.error();
         }

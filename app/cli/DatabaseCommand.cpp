@@ -1,4 +1,5 @@
 #include "app/cli/DatabaseCommand.h"
+#include "app/present/BirthRecord.h"
 
 #include "app/cli/ChartSource.h"
 #include "app/cli/CommandSettings.h"
@@ -86,7 +87,7 @@ ExitCode DatabaseCommand::run(const Arguments& arguments, Console& console) cons
                       ConsoleMessages(console, arguments.has("--yes")),
                       *settings,
                       *file,
-                      data::ChartDatabase(dateOrder(*settings))};
+                      data::ChartDatabase(present::dateOrder(*settings))};
     if (opens_ == Opens::Database) {
         code = exitCodeOf(data::openDatabase(call.database, call.path, call.messages));
     }

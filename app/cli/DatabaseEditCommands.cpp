@@ -6,6 +6,7 @@
 #include "app/cli/DatabaseOptions.h"
 #include "app/cli/DatabaseRecord.h"
 #include "app/cli/SharedOptions.h"
+#include "app/present/BirthRecord.h"
 #include "core/FileText.h"
 #include "data/BirthTexts.h"
 #include "data/ChartLine.h"
@@ -78,7 +79,7 @@ ExitCode finishRecord(DatabaseCall& call, BirthData& birth)
         return usageError(call, "--place is longer than " + std::to_string(data::kPlaceLength) +
                                     " characters");
     }
-    const std::string problem = birthProblem(chart);
+    const std::string problem = present::birthProblem(chart);
     if (!problem.empty()) {
         return usageError(call, problem);
     }

@@ -4,6 +4,7 @@
 #include "app/cli/Console.h"
 #include "app/cli/SharedOptions.h"
 #include "app/cli/TextTable.h"
+#include "app/present/BirthRecord.h"
 #include "core/FileText.h"
 #include "data/DatabaseMessages.h"
 #include "data/Merge.h"
@@ -203,7 +204,7 @@ ExitCode MergeDatabaseCommand::work(DatabaseCall& call) const
     if (!changed) {
         return usageError(call, "--changed '" + word + "' is not skip, replace or both");
     }
-    data::ChartDatabase theirs(dateOrder(call.settings));
+    data::ChartDatabase theirs(present::dateOrder(call.settings));
     if (data::openDatabase(theirs, *call.arguments.value("OTHER"), call.messages) !=
         data::Outcome::Done) {
         return ExitCode::Failed;
@@ -246,7 +247,7 @@ ImportChartsCommand::ImportChartsCommand()
 ExitCode ImportChartsCommand::work(DatabaseCall& call) const
 {
     data::ImportOptions options;
-    options.order = dateOrder(call.settings);
+    options.order = present::dateOrder(call.settings);
     const std::string encoding =
         data::lowered(call.arguments.value("--encoding").value_or("windows-1252"));
     if (encoding != "windows-1252" && encoding != "cp850") {

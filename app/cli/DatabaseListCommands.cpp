@@ -5,6 +5,7 @@
 #include "app/cli/Console.h"
 #include "app/cli/DatabaseOptions.h"
 #include "app/cli/DatabaseRecord.h"
+#include "app/present/BirthRecord.h"
 #include "core/FileText.h"
 #include "core/NumberText.h"
 #include "data/Chooser.h"
@@ -249,7 +250,7 @@ ExitCode ShowChartCommand::work(DatabaseCall& call) const
     if (!line) {
         return code;
     }
-    for (const std::string& text : unreadTexts(chart)) {
+    for (const std::string& text : present::unreadTexts(chart)) {
         call.console.warning(text);
     }
     if (!call.json()) {

@@ -4,6 +4,7 @@
 #include "app/cli/ChartSource.h"
 #include "app/cli/TextTable.h"
 #include "app/cli/TextValues.h"
+#include "app/present/BirthRecord.h"
 #include "core/FileText.h"
 #include "core/NumberText.h"
 #include "data/BirthTexts.h"
@@ -263,7 +264,7 @@ std::wstring recordText(const core::Chart& chart)
     add(L"Code", identity.code);
     add(L"Date", dateText(chart.time));
     add(L"Time", chart.timeText);
-    add(L"Place", placeLabel(chart));
+    add(L"Place", present::placeLabel(chart));
     add(L"Zone", chart.zoneText);
     add(L"Saving time", std::to_wstring(chart.daylightSaving));
     add(L"Longitude", identity.longitudeText);

@@ -6,6 +6,7 @@
 #include "app/cli/Progress.h"
 #include "app/cli/SharedOptions.h"
 #include "app/cli/TextTable.h"
+#include "app/present/BirthRecord.h"
 #include "core/FileText.h"
 #include "data/CheckDatabaseLine.h"
 #include "data/DatabaseMessages.h"
@@ -78,11 +79,11 @@ void checkLine(data::ChartDatabase& database, std::size_t index, core::Messages&
     }
     core::Chart chart;
     database.read(index, chart);
-    const std::string problem = birthProblem(chart);
+    const std::string problem = present::birthProblem(chart);
     if (!problem.empty()) {
         check.problems.push_back({index, problem});
     }
-    for (const std::string& text : unreadTexts(chart)) {
+    for (const std::string& text : present::unreadTexts(chart)) {
         check.problems.push_back({index, text});
     }
 }

@@ -1,8 +1,8 @@
 #include "app/cli/TransitCommandOptions.h"
 
 #include "analysis/ExplainText.h"
-#include "app/cli/Clock.h"
 #include "app/cli/TextValues.h"
+#include "app/present/Clock.h"
 #include "core/FileText.h"
 #include "core/NumberText.h"
 #include "timing/SiderealSky.h"
@@ -271,7 +271,7 @@ Result<void> settleTransitDays(TransitRequest& request, double clock)
     if (request.first) {
         request.days.first = *request.first;
     } else {
-        const Result<double> moment = presentMoment();
+        const Result<double> moment = present::presentMoment();
         if (!moment) {
             return moment.error();
         }

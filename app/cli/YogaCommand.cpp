@@ -1,11 +1,11 @@
 #include "app/cli/YogaCommand.h"
 
-#include "app/cli/Clock.h"
 #include "app/cli/CommandSettings.h"
 #include "app/cli/JsonValues.h"
 #include "app/cli/SharedOptions.h"
 #include "app/cli/TextValues.h"
 #include "app/cli/YogaOutput.h"
+#include "app/present/Clock.h"
 #include "core/DateTime.h"
 #include "core/FileText.h"
 #include "core/NumberText.h"
@@ -183,7 +183,7 @@ std::optional<ChosenRule> chosenRule(const Arguments& arguments, Console& consol
 
 core::Result<double> presentJulianDay()
 {
-    const core::Result<double> moment = presentMoment();
+    const core::Result<double> moment = present::presentMoment();
     if (!moment) {
         return moment.error();
     }

@@ -1,6 +1,7 @@
 // A computed chart with what its presentation needs to know beside it.
 #pragma once
 
+#include "astro/Engine.h"
 #include "core/Chart.h"
 #include "core/Settings.h"
 
@@ -19,5 +20,9 @@ struct ComputedChart
     std::optional<core::VedicDay> day;      ///< the day running; none near the poles
     std::optional<double> upperCulmination; ///< of the Sun on the civil date, local hours
 };
+
+/// Computes and analyses the chart from its birth data under its settings. Without a place there
+/// are no houses, no sunrise and no sahams.
+void computeFromBirthData(ComputedChart& computed, astro::EphemerisContext& context);
 
 } // namespace kestrav::present

@@ -3,7 +3,7 @@
 
 #include "core/Result.h"
 
-namespace kestrav::cli
+namespace kestrav::present
 {
 
 /// The environment variable that stands for the system clock, in seconds of Unix time.
@@ -22,4 +22,4 @@ struct SystemZone
 /// What the zone of the system is at a moment.
 [[nodiscard]] SystemZone systemZoneAt(double unixSeconds);
 
-} // namespace kestrav::cli
+} // namespace kestrav::present

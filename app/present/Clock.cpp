@@ -1,4 +1,4 @@
-#include "app/cli/Clock.h"
+#include "app/present/Clock.h"
 
 #include "core/NumberText.h"
 
@@ -8,7 +8,7 @@
 #include <ctime>
 #include <optional>
 
-namespace kestrav::cli
+namespace kestrav::present
 {
 
 namespace
@@ -45,4 +45,4 @@ SystemZone systemZoneAt(double unixSeconds)
     return {double(local.tm_gmtoff) / 3600.0 - saving, saving};
 }
 
-} // namespace kestrav::cli
+} // namespace kestrav::present
