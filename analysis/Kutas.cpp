@@ -240,6 +240,21 @@ bool lordsAgree(int groomSign, int brideSign)
            (naturalRelationship(his, hers) == 1 && naturalRelationship(hers, his) == 1);
 }
 
+std::wstring_view ganaName(int gana)
+{
+    return at(kGanaNames, gana);
+}
+
+std::wstring_view nadiName(int nadi)
+{
+    return at(kNadis, nadi);
+}
+
+std::wstring_view yoniName(int yoni)
+{
+    return at(kYonis, yoni);
+}
+
 std::wstring planetLabel(int planet)
 {
     std::wstring name(core::PointName(4, planet));

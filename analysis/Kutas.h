@@ -57,6 +57,11 @@ using KutaScores = std::array<KutaScore, kKutaCount>;
 /// Whether the lords of two signs are one planet or natural friends of each other.
 [[nodiscard]] bool lordsAgree(int groomSign, int brideSign);
 
+/// Names of the gana 0 to 2, nadi 0 to 2 and yoni 0 to 13 of the tables.
+[[nodiscard]] std::wstring_view ganaName(int gana);
+[[nodiscard]] std::wstring_view nadiName(int nadi);
+[[nodiscard]] std::wstring_view yoniName(int yoni);
+
 /// Name of a planet without the blank in which some names end.
 [[nodiscard]] std::wstring planetLabel(int planet);
 

@@ -29,45 +29,6 @@ using timing::LordKind;
 constexpr std::array<std::wstring_view, 4> kDerivedStarts = {L"Kshema (4th)", L"Utpanna (5th)",
                                                              L"Sadha (6th)", L"Adhana (8th)"};
 
-std::wstring lordName(LordKind kind, int lord)
-{
-    switch (kind) {
-    case LordKind::Sign:
-        return withoutEndBlanks(core::signNameLong(lord));
-    case LordKind::House:
-        return L"House " + std::to_wstring(lord);
-    case LordKind::Planet:
-        break;
-    }
-    return pointLabel(lord);
-}
-
-std::wstring lordShortName(LordKind kind, int lord)
-{
-    switch (kind) {
-    case LordKind::Sign:
-        return withoutEndBlanks(core::SignName3(lord));
-    case LordKind::House:
-        return std::to_wstring(lord);
-    case LordKind::Planet:
-        break;
-    }
-    return withoutEndBlanks(core::PointName(3, lord));
-}
-
-Link lordLink(LordKind kind, int lord)
-{
-    switch (kind) {
-    case LordKind::Sign:
-        return {Subject::Sign, lord};
-    case LordKind::House:
-        return {Subject::House, lord};
-    case LordKind::Planet:
-        break;
-    }
-    return {Subject::Point, lord};
-}
-
 std::wstring startText(const timing::DashaOptions& options)
 {
     if (!timing::startsFromNakshatra(options.system)) {
@@ -136,15 +97,8 @@ public:
     void add(const DashaPeriod& period)
     {
         std::wstring name(2 * std::size_t(period.level - 1), L' ');
-        if (period.level == 1) {
-            name += lordName(kind(), period.lord());
-        } else {
-            for (int level = 1; level <= period.level; ++level) {
-                name +=
-                    (level > 1 ? L"-" : L"") + lordShortName(kind(), at(period.lords, level - 1));
-            }
-        }
-        Row cells = {{std::move(name), period.startAge, lordLink(kind(), period.lord())}};
+        name += dashaPeriodName(kind(), period);
+        Row cells = {{std::move(name), period.startAge, dashaLordLink(kind(), period.lord())}};
         if (hasDates()) {
             cells.push_back(momentCell(period.startJulianDay));
             cells.push_back(momentCell(dasha_.calendar.julianDayOf(period.endAge())));
@@ -253,6 +207,57 @@ LordKind dashaLordKind(int system)
     }
     return timing::isSignDasha(system) || system == timing::kKalaChakra ? LordKind::Sign
                                                                         : LordKind::Planet;
+}
+
+std::wstring dashaLordName(LordKind kind, int lord)
+{
+    switch (kind) {
+    case LordKind::Sign:
+        return withoutEndBlanks(core::signNameLong(lord));
+    case LordKind::House:
+        return L"House " + std::to_wstring(lord);
+    case LordKind::Planet:
+        break;
+    }
+    return pointLabel(lord);
+}
+
+std::wstring dashaLordShortName(LordKind kind, int lord)
+{
+    switch (kind) {
+    case LordKind::Sign:
+        return withoutEndBlanks(core::SignName3(lord));
+    case LordKind::House:
+        return std::to_wstring(lord);
+    case LordKind::Planet:
+        break;
+    }
+    return withoutEndBlanks(core::PointName(3, lord));
+}
+
+Link dashaLordLink(LordKind kind, int lord)
+{
+    switch (kind) {
+    case LordKind::Sign:
+        return {Subject::Sign, lord};
+    case LordKind::House:
+        return {Subject::House, lord};
+    case LordKind::Planet:
+        break;
+    }
+    return {Subject::Point, lord};
+}
+
+std::wstring dashaPeriodName(LordKind kind, const DashaPeriod& period)
+{
+    if (period.level == 1) {
+        return dashaLordName(kind, period.lord());
+    }
+    std::wstring name;
+    for (int level = 1; level <= period.level; ++level) {
+        name += (level > 1 ? L"-" : L"") + dashaLordShortName(kind, at(period.lords, level - 1));
+    }
+    return name;
 }
 
 std::string_view lordKindName(LordKind kind)

@@ -33,6 +33,17 @@ struct DashaResult
 [[nodiscard]] std::wstring dashaSystemName(int system);
 [[nodiscard]] timing::LordKind dashaLordKind(int system);
 
+/// The lord of a period, such as "Mars", "Leo" or "House 3"; in short "Mar", "Leo", "3".
+[[nodiscard]] std::wstring dashaLordName(timing::LordKind kind, int lord);
+[[nodiscard]] std::wstring dashaLordShortName(timing::LordKind kind, int lord);
+
+/// What the lord of a period leads to.
+[[nodiscard]] Link dashaLordLink(timing::LordKind kind, int lord);
+
+/// "Mars" for a period of the first level, "Mar-Rah-Jup" with all lords for one of the third.
+[[nodiscard]] std::wstring dashaPeriodName(timing::LordKind kind,
+                                           const timing::DashaPeriod& period);
+
 /// "planet", "sign" or "house".
 [[nodiscard]] std::string_view lordKindName(timing::LordKind kind);
 

@@ -3,6 +3,7 @@
 #include "app/present/TextValues.h"
 #include "core/Names.h"
 #include "core/TextForms.h"
+#include "timing/TransitSearch.h"
 
 namespace kestrav::present
 {
@@ -26,6 +27,15 @@ Table eventTable(std::string id, std::wstring title, std::vector<Column> columns
 Cell momentCell(double julianDay, double clockOffset)
 {
     return {dateText(timing::clockRecord(julianDay, clockOffset)),
+            julianDay,
+            {Subject::Moment, 0, 0, julianDay}};
+}
+
+Cell momentCell(double julianDay, double clockOffset, bool twelveHour)
+{
+    const double day0h = timing::civilDayOf(julianDay, clockOffset);
+    return {dateText(timing::recordOfDay(day0h)) + L" " +
+                clockSeconds((julianDay - day0h) * 24.0 + clockOffset, twelveHour),
             julianDay,
             {Subject::Moment, 0, 0, julianDay}};
 }

@@ -37,6 +37,9 @@ struct EphemerisColumns
 /// A date that leads to its moment.
 [[nodiscard]] Cell momentCell(double julianDay, double clockOffset);
 
+/// The date with the clock time to the second, which leads to the moment.
+[[nodiscard]] Cell momentCell(double julianDay, double clockOffset, bool twelveHour);
+
 /// The clock time of a moment to the second.
 [[nodiscard]] Cell clockCell(double julianDay, double clockOffset, bool twelveHour);
 

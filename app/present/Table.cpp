@@ -1,6 +1,8 @@
 #include "app/present/Table.h"
 
 #include "app/present/TextValues.h"
+#include "core/Names.h"
+#include "core/PointNames.h"
 
 #include <algorithm>
 #include <cassert>
@@ -43,6 +45,22 @@ int compareCells(const Cell& one, const Cell& other)
 Cell pointCell(int point, int varga)
 {
     return {pointLabel(point), double(point), {Subject::Point, point, varga}};
+}
+
+Cell signCell(int sign, int varga)
+{
+    if (sign == 0) {
+        return core::kNoName;
+    }
+    return {std::wstring(core::signNameLong(sign)), double(sign), {Subject::Sign, sign, varga}};
+}
+
+Cell quarterCell(double position)
+{
+    const int nakshatra = nakshatraOf(position);
+    return {std::wstring(core::nakshatraName(nakshatra)) + L" " + std::to_wstring(padaOf(position)),
+            position,
+            {Subject::Nakshatra, nakshatra}};
 }
 
 Cell numberCell(const std::optional<double>& value, int decimals)

@@ -66,6 +66,9 @@ struct Cell
     std::wstring text;
     std::optional<double> sortKey; ///< sorts by this where it exists, by the text where not
     Link link;
+    /// How good or bad the cell is, from -3 to 4, for a colour behind it on the screen. Files do
+    /// not have it.
+    std::optional<int> shade;
 };
 
 using Row = std::vector<Cell>;
@@ -101,6 +104,13 @@ struct Table
 
 /// A cell that leads to a point, with its long name as text and the point index as sort key.
 [[nodiscard]] Cell pointCell(int point, int varga = 0);
+
+/// A cell that leads to a sign, with its long name and the sign as sort key; "--" for 0.
+[[nodiscard]] Cell signCell(int sign, int varga = 0);
+
+/// A cell that leads to a nakshatra, "Rohini 2" with its quarter, sorted by the position 0 to under
+/// 27.
+[[nodiscard]] Cell quarterCell(double position);
 
 /// A cell with a number of fixed decimals, "--" for what is not there.
 [[nodiscard]] Cell numberCell(const std::optional<double>& value, int decimals);

@@ -1,5 +1,6 @@
 #include "app/present/TransitTables.h"
 
+#include "app/present/EphemerisTables.h"
 #include "app/present/TextValues.h"
 #include "core/Names.h"
 #include "core/PointNames.h"
@@ -15,20 +16,6 @@ namespace
 Cell dayCell(double day0h, double julianDay)
 {
     return {dateText(timing::recordOfDay(day0h)), julianDay, {Subject::Moment, 0, 0, julianDay}};
-}
-
-// Date and time in one cell.
-Cell momentCell(double julianDay, double clockOffset, bool twelveHour)
-{
-    const double day0h = timing::civilDayOf(julianDay, clockOffset);
-    Cell cell = dayCell(day0h, julianDay);
-    cell.text += L" " + clockSeconds((julianDay - day0h) * 24.0 + clockOffset, twelveHour);
-    return cell;
-}
-
-Cell signCell(int sign)
-{
-    return {std::wstring(core::signNameLong(sign)), double(sign), {Subject::Sign, sign}};
 }
 
 } // namespace

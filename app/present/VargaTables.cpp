@@ -22,20 +22,6 @@ std::wstring divisionText(int varga)
     return std::to_wstring(analysis::vargaDivision(varga));
 }
 
-std::wstring boundaryNote(const core::Settings& settings)
-{
-    return L"* within " + std::to_wstring(settings.sandhiMinutes) + L"' of the boundary of a part";
-}
-
-Cell dignityCell(const ComputedChart& computed, int varga, int point)
-{
-    if (point < core::kSun || point > core::kKetu) {
-        return {};
-    }
-    const int shown = analysis::shownDignity(computed.chart, point, varga, computed.settings);
-    return {withoutEndBlanks(analysis::dignityWord(shown, false)), double(shown)};
-}
-
 } // namespace
 
 std::wstring vargaHeading(int varga)
@@ -44,9 +30,23 @@ std::wstring vargaHeading(int varga)
            std::wstring(analysis::vargaMeaning(varga));
 }
 
+std::wstring boundaryNote(const core::Settings& settings)
+{
+    return L"* within " + std::to_wstring(settings.sandhiMinutes) + L"' of the boundary of a part";
+}
+
 Cell vargaCell(int varga)
 {
     return {L"D" + divisionText(varga), double(varga), {Subject::Varga, varga}};
+}
+
+Cell vargaDignityCell(const ComputedChart& computed, int varga, int point)
+{
+    if (point < core::kSun || point > core::kKetu) {
+        return {};
+    }
+    const int shown = analysis::shownDignity(computed.chart, point, varga, computed.settings);
+    return {withoutEndBlanks(analysis::dignityWord(shown, false)), double(shown)};
 }
 
 std::vector<int> placedPoints(const ComputedChart& computed)
@@ -131,7 +131,7 @@ Table vargaTable(const ComputedChart& computed, int varga)
                     {Subject::Sign, placement.sign, varga}},
                    {core::FormatDMS(placement.position, 1), placement.position},
                    integerCell(placement.strengthStep),
-                   dignityCell(computed, varga, point)});
+                   vargaDignityCell(computed, varga, point)});
     }
     table.notes.push_back(boundaryNote(computed.settings));
     return table;

@@ -16,8 +16,15 @@ inline constexpr int kPlacedPoints = core::kPartOfFortune;
 /// "Navamsha (D-9), spouse": name, division and meaning.
 [[nodiscard]] std::wstring vargaHeading(int varga);
 
+/// What the mark "*" of placements means.
+[[nodiscard]] std::wstring boundaryNote(const core::Settings& settings);
+
 /// "D9", which leads to the divisional chart.
 [[nodiscard]] Cell vargaCell(int varga);
+
+/// The word of a planet's dignity in a divisional chart, sorted by its display index; empty for
+/// points that have none.
+[[nodiscard]] Cell vargaDignityCell(const ComputedChart& computed, int varga, int point);
 
 /// The points that are computed and have placements, in their order.
 [[nodiscard]] std::vector<int> placedPoints(const ComputedChart& computed);
