@@ -1,0 +1,128 @@
+#include "app/desktop/pages/PageStrip.h"
+
+#include "app/desktop/pages/PageView.h"
+#include "app/desktop/shell/Convert.h"
+
+#include <QStackedWidget>
+#include <QTabBar>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
+
+namespace kestrav::desktop
+{
+
+PageStrip::PageStrip(Workspace& workspace, QWidget* parent)
+    : QWidget(parent), workspace_(workspace), tabs_(new QTabBar(this)),
+      stack_(new QStackedWidget(this))
+{
+    setObjectName(QStringLiteral("PageStrip"));
+    tabs_->setObjectName(QStringLiteral("PageTabs"));
+    tabs_->setAccessibleName(tr("Pages"));
+    tabs_->setMovable(true);
+    tabs_->setDocumentMode(true);
+    tabs_->setExpanding(false);
+    tabs_->setUsesScrollButtons(true);
+    auto* const box = new QVBoxLayout(this);
+    box->setContentsMargins({});
+    box->setSpacing(0);
+    box->addWidget(tabs_);
+    box->addWidget(stack_, 1);
+    connect(tabs_, &QTabBar::currentChanged, this, &PageStrip::showTab);
+    connect(tabs_, &QTabBar::tabMoved, this, [this](int from, int to) {
+        std::swap(pages_[std::size_t(from)], pages_[std::size_t(to)]);
+        emit changed();
+    });
+}
+
+void PageStrip::setPages(std::vector<present::PageLayout> layouts)
+{
+    const QSignalBlocker blocker(tabs_);
+    while (tabs_->count() > 0) {
+        tabs_->removeTab(0);
+    }
+    for (const Page& page : pages_) {
+        delete page.view;
+    }
+    pages_.clear();
+    for (present::PageLayout& layout : layouts) {
+        tabs_->addTab(toQt(layout.name));
+        pages_.push_back({std::move(layout), nullptr});
+    }
+    showTab(tabs_->currentIndex());
+}
+
+void PageStrip::addPage(present::PageLayout layout)
+{
+    pages_.push_back({std::move(layout), nullptr});
+    const int index = tabs_->addTab(toQt(pages_.back().layout.name));
+    tabs_->setCurrentIndex(index);
+    showTab(index);
+    emit changed();
+}
+
+int PageStrip::count() const
+{
+    return int(pages_.size());
+}
+
+int PageStrip::current() const
+{
+    return tabs_->currentIndex();
+}
+
+QString PageStrip::name(int index) const
+{
+    return toQt(pages_[std::size_t(index)].layout.name);
+}
+
+void PageStrip::show(int index)
+{
+    if (index >= 0 && index < count()) {
+        tabs_->setCurrentIndex(index);
+    }
+}
+
+bool PageStrip::show(const QString& wanted)
+{
+    for (int i = 0; i < count(); ++i) {
+        if (name(i).compare(wanted, Qt::CaseInsensitive) == 0) {
+            show(i);
+            return true;
+        }
+    }
+    return false;
+}
+
+PageView* PageStrip::page() const
+{
+    const int index = current();
+    return index < 0 ? nullptr : pages_[std::size_t(index)].view;
+}
+
+void PageStrip::showTab(int index)
+{
+    if (index < 0 || index >= count()) {
+        return;
+    }
+    Page& page = pages_[std::size_t(index)];
+    if (page.view == nullptr) {
+        page.view = new PageView(workspace_, page.layout, stack_);
+        connect(page.view, &PageView::changed, this, &PageStrip::changed);
+        stack_->addWidget(page.view);
+    }
+    stack_->setCurrentWidget(page.view);
+    emit currentChanged(index);
+}
+
+std::vector<present::PageLayout> PageStrip::layouts() const
+{
+    std::vector<present::PageLayout> layouts;
+    for (const Page& page : pages_) {
+        layouts.push_back(page.view != nullptr ? page.view->layout() : page.layout);
+    }
+    return layouts;
+}
+
+} // namespace kestrav::desktop

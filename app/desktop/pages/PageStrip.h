@@ -1,0 +1,60 @@
+// The pages of the window, one at a time under a strip of tabs.
+#pragma once
+
+#include "app/present/PageLayout.h"
+
+#include <QWidget>
+
+#include <vector>
+
+class QStackedWidget;
+class QTabBar;
+
+namespace kestrav::desktop
+{
+
+class PageView;
+class Workspace;
+
+class PageStrip : public QWidget
+{
+    Q_OBJECT
+
+public:
+    PageStrip(Workspace& workspace, QWidget* parent);
+
+    /// Replaces all pages. A page is made when it is first shown.
+    void setPages(std::vector<present::PageLayout> layouts);
+    void addPage(present::PageLayout layout);
+    [[nodiscard]] int count() const;
+    [[nodiscard]] int current() const;
+    [[nodiscard]] QString name(int index) const;
+    void show(int index);
+    /// Shows the page of that name without regard to case; false when there is none.
+    bool show(const QString& name);
+    /// The page that is shown; null without pages.
+    [[nodiscard]] PageView* page() const;
+    /// The layouts of all pages as they are now.
+    [[nodiscard]] std::vector<present::PageLayout> layouts() const;
+
+signals:
+    void currentChanged(int index);
+    /// The user changed, moved, closed or added pages.
+    void changed();
+
+private:
+    struct Page
+    {
+        present::PageLayout layout;
+        PageView* view = nullptr; ///< null until it is first shown
+    };
+
+    void showTab(int index);
+
+    Workspace& workspace_;
+    QTabBar* tabs_;
+    QStackedWidget* stack_;
+    std::vector<Page> pages_;
+};
+
+} // namespace kestrav::desktop

@@ -1,0 +1,159 @@
+#include "app/desktop/pages/PanelCell.h"
+
+#include "analysis/VargaNames.h"
+#include "app/desktop/pages/PanelFactory.h"
+#include "app/desktop/panels/PanelWidget.h"
+#include "app/desktop/shell/Convert.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QContextMenuEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace kestrav::desktop
+{
+
+namespace
+{
+
+constexpr int kZoomStep = 10;
+
+QToolButton* barButton(const QString& text, const QString& name, const QString& tip,
+                       QWidget* parent)
+{
+    auto* const button = new QToolButton(parent);
+    button->setText(text);
+    button->setObjectName(name);
+    button->setToolTip(tip);
+    button->setAccessibleName(tip);
+    button->setAutoRaise(true);
+    return button;
+}
+
+} // namespace
+
+PanelCell::PanelCell(Workspace& workspace, const present::Panel& panel, QWidget* parent)
+    : QFrame(parent), workspace_(workspace), panel_(makePanel(workspace, panel, this)),
+      caption_(new QLabel(this))
+{
+    setFrameShape(StyledPanel);
+    setObjectName(QStringLiteral("PanelCell"));
+    caption_->setObjectName(QStringLiteral("CaptionLabel"));
+    QFont bold = caption_->font();
+    bold.setBold(true);
+    caption_->setFont(bold);
+    caption_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+
+    auto* const bar = new QHBoxLayout;
+    const int gap = fontMetrics().height() / 4;
+    bar->setContentsMargins(gap * 2, gap / 2, gap / 2, gap / 2);
+    bar->setSpacing(gap);
+    bar->addWidget(caption_, 1);
+    if (panel_->hasVarga()) {
+        varga_ = new QComboBox(this);
+        varga_->setObjectName(QStringLiteral("VargaComboBox"));
+        varga_->setAccessibleName(tr("Divisional chart"));
+        varga_->setToolTip(tr("Divisional chart"));
+        for (int varga = 0; varga < core::kVargaCount; ++varga) {
+            varga_->addItem(vargaTitle(varga));
+        }
+        varga_->setFrame(false);
+        connect(varga_, &QComboBox::activated, this, [this](int varga) {
+            panel_->setVarga(varga);
+            emit changed();
+        });
+        bar->addWidget(varga_);
+    }
+    if (panel_->hasStyle()) {
+        style_ = new QComboBox(this);
+        style_->setObjectName(QStringLiteral("StyleComboBox"));
+        style_->setAccessibleName(tr("Style of the diagram"));
+        style_->setToolTip(tr("Style of the diagram"));
+        style_->addItem(tr("Standard"));
+        for (int style = 0; style < present::kDiagramStyles; ++style) {
+            style_->addItem(
+                toQt(present::diagramStyleTitle(present::DiagramStyle(style))).section(' ', 0, 0));
+        }
+        style_->setFrame(false);
+        connect(style_, &QComboBox::activated, this, [this](int index) {
+            panel_->setStyle(index == 0 ? std::nullopt
+                                        : std::optional(present::DiagramStyle(index - 1)));
+            emit changed();
+        });
+        bar->addWidget(style_);
+    }
+    pin_ = barButton(QStringLiteral("\u25C9"), QStringLiteral("PinButton"),
+                     tr("Keep showing this chart here"), this);
+    pin_->setCheckable(true);
+    connect(pin_, &QToolButton::toggled, panel_, &PanelWidget::pin);
+    bar->addWidget(pin_);
+    menu_ = barButton(QStringLiteral("\u2630"), QStringLiteral("PanelMenuButton"),
+                      tr("Menu of this panel"), this);
+    menu_->setPopupMode(QToolButton::InstantPopup);
+    auto* const menu = new QMenu(menu_);
+    connect(menu, &QMenu::aboutToShow, this, [this, menu] {
+        menu->clear();
+        fillMenu(*menu);
+    });
+    menu_->setMenu(menu);
+    bar->addWidget(menu_);
+
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->setSpacing(0);
+    layout->addLayout(bar);
+    layout->addWidget(panel_, 1);
+    setFocusProxy(panel_);
+    connect(panel_, &PanelWidget::captionChanged, this, &PanelCell::showCaption);
+    showCaption();
+}
+
+void PanelCell::showCaption()
+{
+    QString text = panel_->title();
+    if (panel_->panel().chart == present::PanelChart::Second) {
+        text = tr("%1 (second chart)").arg(text);
+    } else if (panel_->panel().chart == present::PanelChart::Moment) {
+        text = tr("%1 (shared date)").arg(text);
+    }
+    caption_->setText(text);
+    caption_->setToolTip(text);
+    panel_->setAccessibleName(text);
+    if (varga_ != nullptr) {
+        varga_->setCurrentIndex(panel_->panel().varga);
+    }
+    if (style_ != nullptr) {
+        const auto style = panel_->panel().style;
+        style_->setCurrentIndex(style ? int(*style) + 1 : 0);
+    }
+}
+
+void PanelCell::fillMenu(QMenu& menu)
+{
+    menu.addActions(panel_->panelActions());
+    if (!menu.isEmpty()) {
+        menu.addSeparator();
+    }
+    menu.addAction(tr("&Larger"), panel_, [this] { panel_->setZoom(panel_->zoom() + kZoomStep); });
+    menu.addAction(tr("S&maller"), panel_, [this] { panel_->setZoom(panel_->zoom() - kZoomStep); });
+    QAction* const keep = menu.addAction(tr("&Keep This Chart"));
+    keep->setCheckable(true);
+    keep->setChecked(pin_->isChecked());
+    connect(keep, &QAction::toggled, pin_, &QToolButton::setChecked);
+    menu.addSeparator();
+    menu.addAction(tr("&Help on This Panel"), &workspace_,
+                   [this] { emit workspace_.helpWanted(panel_->helpName()); });
+}
+
+void PanelCell::contextMenuEvent(QContextMenuEvent* event)
+{
+    QMenu menu(this);
+    fillMenu(menu);
+    menu.exec(event->globalPos());
+}
+
+} // namespace kestrav::desktop

@@ -1,0 +1,52 @@
+// A cell of a page: a caption bar with choosers, and a panel below it.
+#pragma once
+
+#include "app/present/PageLayout.h"
+
+#include <QFrame>
+
+class QComboBox;
+class QLabel;
+class QMenu;
+class QToolButton;
+
+namespace kestrav::desktop
+{
+
+class PanelWidget;
+class Workspace;
+
+class PanelCell : public QFrame
+{
+    Q_OBJECT
+
+public:
+    PanelCell(Workspace& workspace, const present::Panel& panel, QWidget* parent);
+
+    [[nodiscard]] PanelWidget* panel() const
+    {
+        return panel_;
+    }
+    /// The panel's own actions and the common ones, as the menu button shows them.
+    void fillMenu(QMenu& menu);
+
+signals:
+    /// The user changed what the cell shows: the page is not any more as it was saved.
+    void changed();
+
+protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
+private:
+    void showCaption();
+
+    Workspace& workspace_;
+    PanelWidget* panel_;
+    QLabel* caption_;
+    QComboBox* varga_ = nullptr;
+    QComboBox* style_ = nullptr;
+    QToolButton* pin_;
+    QToolButton* menu_;
+};
+
+} // namespace kestrav::desktop

@@ -1,0 +1,57 @@
+#include "app/desktop/pages/PanelFactory.h"
+
+#include "app/desktop/diagram/DiagramPanel.h"
+#include "app/desktop/panels/TablePanel.h"
+#include "app/desktop/panels/TextPanel.h"
+#include "app/desktop/panels/UnknownPanel.h"
+
+#include <string_view>
+
+namespace kestrav::desktop
+{
+
+namespace
+{
+
+using Make = PanelWidget* (*)(Workspace&, const present::Panel&, QWidget*);
+
+template <typename Widget>
+PanelWidget* make(Workspace& workspace, const present::Panel& panel, QWidget* parent)
+{
+    return new Widget(workspace, panel, parent);
+}
+
+struct ViewRow
+{
+    std::string_view name;
+    Make make;
+};
+
+// The views by the names of present::panelViews().
+constexpr ViewRow kViews[] = {
+    {"notes", make<TextPanel>},
+};
+
+} // namespace
+
+PanelWidget* makePanel(Workspace& workspace, const present::Panel& panel, QWidget* parent)
+{
+    switch (panel.kind) {
+    case present::PanelKind::Diagram:
+        return new DiagramPanel(workspace, panel, parent);
+    case present::PanelKind::Table:
+        return new TablePanel(workspace, panel, parent);
+    case present::PanelKind::Text:
+        return new TextPanel(workspace, panel, parent);
+    case present::PanelKind::View:
+        break;
+    }
+    for (const ViewRow& row : kViews) {
+        if (row.name == panel.content) {
+            return row.make(workspace, panel, parent);
+        }
+    }
+    return new UnknownPanel(workspace, panel, parent);
+}
+
+} // namespace kestrav::desktop

@@ -1,0 +1,192 @@
+#include "app/desktop/panels/TablePanel.h"
+
+#include "app/desktop/panels/TableExport.h"
+#include "app/desktop/panels/TableView.h"
+#include "app/desktop/shell/Convert.h"
+#include "app/present/TableCatalogue.h"
+#include "core/FileText.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <utility>
+
+namespace kestrav::desktop
+{
+
+namespace
+{
+
+// Tables that are made in less than the time in which a screen is drawn. The others search the sky.
+bool madeAtOnce(std::string_view id)
+{
+    static constexpr std::array<std::string_view, 13> kSlow = {
+        "varga-windows",    "dashas",    "yogas",           "transits",
+        "transit-kakshyas", "sade-sati", "ephemeris",       "ephemeris-events",
+        "moon-phases",      "eclipses",  "eclipsed-points", "conditional-dashas",
+        "panchanga"};
+    return std::find(kSlow.begin(), kSlow.end(), id) == kSlow.end();
+}
+
+bool belongsToVarga(std::string_view id)
+{
+    static constexpr std::array<std::string_view, 5> kOfVarga = {"varga", "ashtakavarga", "trikona",
+                                                                 "ekadhipatya", "pinda"};
+    return std::find(kOfVarga.begin(), kOfVarga.end(), id) != kOfVarga.end();
+}
+
+bool dependsOnMoment(std::string_view id)
+{
+    static constexpr std::array<std::string_view, 9> kOfMoment = {
+        "running-dashas",   "transits",    "transit-kakshyas", "sade-sati",      "ephemeris",
+        "ephemeris-events", "moon-phases", "eclipses",         "eclipsed-points"};
+    return std::find(kOfMoment.begin(), kOfMoment.end(), id) != kOfMoment.end();
+}
+
+bool comparesCharts(std::string_view id)
+{
+    return id == "kutas" || id == "doshas";
+}
+
+// Everything that a table is made from, held together for a worker.
+struct TableRequest
+{
+    std::string id;
+    ChartPointer chart;
+    ChartPointer second;
+    DataPointer data;
+    YogasPointer yogas;
+    int varga = 0;
+    double moment = 0.0;
+
+    [[nodiscard]] core::Result<present::Table> make() const
+    {
+        present::TableSource source{*chart, data->series};
+        const core::Chart& shown = chart->chart;
+        source.varga = varga;
+        source.nameLetter = shown.identity.sound.empty() ? 0 : shown.identity.soundGroup;
+        source.levels = chart->settings.dashaLevels;
+        source.moment = moment;
+        source.yogas = yogas->files().empty() ? nullptr : yogas.get();
+        if (second) {
+            const bool firstIsBride = shown.identity.sex == L"F";
+            source.bride = firstIsBride ? &shown : &second->chart;
+            source.groom = firstIsBride ? &second->chart : &shown;
+            source.matchingTables = &data->matching;
+        }
+        return present::findTable(id)->make(source);
+    }
+};
+
+} // namespace
+
+TablePanel::TablePanel(Workspace& workspace, present::Panel panel, QWidget* parent)
+    : PanelWidget(workspace, std::move(panel), parent), view_(new TableView(this)),
+      note_(new QLabel(this))
+{
+    setObjectName(QStringLiteral("TablePanel-") + toQt(panel_.content));
+    view_->setObjectName(QStringLiteral("TableView"));
+    note_->setWordWrap(true);
+    note_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    note_->setMargin(note_->fontMetrics().height() / 3);
+    note_->hide();
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->setSpacing(0);
+    layout->addWidget(note_);
+    layout->addWidget(view_, 1);
+    setFocusProxy(view_);
+    unsigned dependences = OnChart;
+    dependences |= dependsOnMoment(panel_.content) ? OnMoment : 0U;
+    dependences |= comparesCharts(panel_.content) ? OnSecond : 0U;
+    dependences |= panel_.content == "yogas" ? OnYogas : 0U;
+    dependOn(dependences);
+    connect(view_, &TableView::linkChosen, this, &TablePanel::choose);
+    connect(view_, &TableView::linkActivated, this, &TablePanel::follow);
+
+    auto* const copy = new QAction(tr("&Copy Table"), this);
+    connect(copy, &QAction::triggered, view_, &TableView::copy);
+    auto* const save = new QAction(tr("&Save Table..."), this);
+    connect(save, &QAction::triggered, this, &TablePanel::saveTable);
+    actions_ = {copy, save};
+}
+
+QString TablePanel::title() const
+{
+    return title_.isEmpty() ? toQt(present::findTable(panel_.content)->meaning) : title_;
+}
+
+QList<QAction*> TablePanel::panelActions()
+{
+    return actions_;
+}
+
+std::vector<present::Block> TablePanel::blocks()
+{
+    refreshNow();
+    if (view_->table().columns.empty()) {
+        return {present::Paragraph{toWide(note_->text())}};
+    }
+    return {view_->table()};
+}
+
+bool TablePanel::hasVarga() const
+{
+    return belongsToVarga(panel_.content);
+}
+
+void TablePanel::refresh()
+{
+    const ChartPointer shown = chart();
+    if (!shown) {
+        work_.cancel();
+        show(core::Error{panel_.chart == present::PanelChart::Second ? "No second chart is open."
+                                                                     : "No chart is open."});
+        return;
+    }
+    TableRequest request{
+        panel_.content,      shown,        workspace().secondChart(), workspace().data(),
+        workspace().yogas(), panel_.varga, workspace().moment()};
+    if (madeAtOnce(request.id)) {
+        show(request.make());
+        return;
+    }
+    work_.start([request](const WorkHandle& /*handle*/) { return request.make(); },
+                [this](core::Result<present::Table> made) { show(std::move(made)); });
+}
+
+void TablePanel::show(core::Result<present::Table> made)
+{
+    QString note;
+    if (!made) {
+        note = tr("Not computed: %1").arg(toQt(made.error().text()));
+        view_->setTable({});
+    } else {
+        QStringList notes;
+        for (const std::wstring& line : made.value().notes) {
+            notes += toQt(line);
+        }
+        note = notes.join(QLatin1Char('\n'));
+        const QString newTitle = toQt(made.value().title);
+        if (newTitle != title_) {
+            title_ = newTitle;
+            emit captionChanged();
+        }
+        view_->setTable(made.value());
+    }
+    note_->setText(note);
+    note_->setVisible(!note.isEmpty());
+    view_->setVisible(made.ok() && !made.value().explainsItsEmptiness());
+    view_->setAccessibleName(title());
+}
+
+void TablePanel::saveTable()
+{
+    saveTableAs(view_->table(), workspace(), this);
+}
+
+} // namespace kestrav::desktop

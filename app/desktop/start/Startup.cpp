@@ -1,0 +1,169 @@
+#include "app/desktop/start/Startup.h"
+
+#include "app/desktop/database/OpenDatabase.h"
+#include "app/desktop/pages/PageStrip.h"
+#include "app/desktop/shell/BackgroundWork.h"
+#include "app/desktop/shell/Convert.h"
+#include "app/desktop/shell/Ks6main.h"
+#include "app/desktop/shell/TMessages.h"
+#include "app/desktop/shell/Theme.h"
+#include "app/desktop/start/Screenshot.h"
+#include "core/Locations.h"
+#include "core/SettingsFile.h"
+
+#include <QApplication>
+#include <QTimer>
+
+#include <cstdio>
+#include <memory>
+#include <system_error>
+#include <utility>
+
+namespace kestrav::desktop
+{
+
+namespace
+{
+
+constexpr int kFailed = 1;
+
+// Tells what is the matter with the program data file. Its absence ends the program as if nothing
+// had happened, as it always did; damage is a failure.
+int reportNoData(const astro::LoadResult& loaded, TMessages& messages)
+{
+    if (loaded.problem == astro::DataFileProblem::Missing) {
+        messages.notice(std::wstring(astro::kMissingDataCaption),
+                        std::wstring(astro::kMissingDataText));
+        return 0;
+    }
+    messages.notice(L"Error", core::fromFileBytes(loaded.error.text()));
+    return kFailed;
+}
+
+core::StoredSettings settingsForRun(const std::filesystem::path& path,
+                                    const ProgramOptions& options, TMessages& messages)
+{
+    core::Result<core::StoredSettings> stored = core::readSettingsFile(path);
+    if (!stored) {
+        messages.notice(L"Warning", core::fromFileBytes(stored.error().text()) +
+                                        L"\nThe settings of a new installation are used.");
+    }
+    core::StoredSettings settings = stored ? std::move(stored.value()) : core::StoredSettings{};
+    if (options.scheme) {
+        settings.settings.colourScheme = *options.scheme == "dark" ? 2 : 1;
+    }
+    if (options.fontPercent) {
+        settings.settings.fontPercent = *options.fontPercent;
+    }
+    return settings;
+}
+
+YogasPointer loadYogas(Workspace& workspace)
+{
+    auto library = std::make_shared<yoga::YogaLibrary>();
+    for (const std::filesystem::path& path : yoga::standardYogaFiles()) {
+        if (const auto loaded = library->load(path); !loaded) {
+            workspace.tellProblem(toQt(loaded.error().text()));
+        }
+    }
+    return library;
+}
+
+// Opens a file that was named on the command line, or the sample charts.
+void openFirstDatabase(Workspace& workspace, const ProgramOptions& options)
+{
+    std::optional<std::filesystem::path> path;
+    for (const std::string& file : options.files) {
+        path = path ? path : std::filesystem::path(file);
+    }
+    if (!path) {
+        path = core::findFile("Sample.ksc");
+    }
+    if (!path) {
+        return;
+    }
+    if (const auto loaded = workspace.database().load(*path); !loaded) {
+        workspace.tellProblem(toQt(loaded.error().text()));
+        return;
+    }
+    std::size_t line = 0;
+    if (options.chart) {
+        line = workspace.database().charts().find(core::fromFileBytes(*options.chart)).value_or(0);
+    }
+    if (workspace.database().charts().size() > line) {
+        workspace.showLine(line);
+    }
+}
+
+void applySize(QWidget& window, const ProgramOptions& options)
+{
+    const QStringList parts =
+        options.size ? toQt(*options.size).split(QLatin1Char('x')) : QStringList();
+    if (parts.size() == 2 && parts[0].toInt() > 0 && parts[1].toInt() > 0) {
+        window.resize(parts[0].toInt(), parts[1].toInt());
+    }
+}
+
+int picture(TKSVform1& window, const ProgramOptions& options)
+{
+    if (*options.screenshot == "list") {
+        std::fputs(toUtf8(pictureNames(window)).c_str(), stdout);
+        return 0;
+    }
+    const auto taken = takePicture(window, toQt(*options.screenshot), toQt(options.screenshotFile));
+    if (!taken) {
+        std::fprintf(stderr, "kestrav: %s\n", taken.error().text().c_str());
+    }
+    return taken ? 0 : kFailed;
+}
+
+} // namespace
+
+int runWindow(int& count, char** words, const ProgramOptions& options)
+{
+    if (options.scale) {
+        qputenv("QT_SCALE_FACTOR", QByteArray::number(*options.scale));
+    }
+    QApplication application(count, words);
+    QApplication::setApplicationName(QStringLiteral("kestrav"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Kestrav"));
+    QApplication::setApplicationVersion(QStringLiteral(KESTRAV_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("org.kestrav.Kestrav"));
+
+    TMessages messages;
+    const std::filesystem::path settingsPath = options.settingsFile
+                                                   ? std::filesystem::path(*options.settingsFile)
+                                                   : core::settingsFilePath();
+    core::StoredSettings settings = settingsForRun(settingsPath, options, messages);
+    applyTheme(settings.settings);
+    astro::LoadResult loaded = astro::LoadSeries();
+    if (!loaded.ok()) {
+        return reportNoData(loaded, messages);
+    }
+    int code = 0;
+    {
+        Workspace workspace(std::make_shared<const astro::ProgramData>(std::move(*loaded.data)),
+                            std::move(settings), settingsPath);
+        TKSVform1 window(workspace);
+        workspace.setYogas(loadYogas(workspace));
+        openFirstDatabase(workspace, options);
+        if (options.page) {
+            window.pages().show(toQt(*options.page));
+        }
+        const bool alone = options.batch || options.screenshot;
+        if (!alone && workspace.settings().restoreSession) {
+            window.restoreSession();
+        }
+        applySize(window, options);
+        if (options.screenshot) {
+            code = picture(window, options);
+        } else {
+            window.show();
+            code = QApplication::exec();
+        }
+    }
+    BackgroundWork::waitForAll();
+    return code;
+}
+
+} // namespace kestrav::desktop
