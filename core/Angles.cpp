@@ -8,32 +8,51 @@
 namespace kestrav::core
 {
 
+namespace
+{
+
+// The remainder brought into 0 <= result < modulus.
+double lifted(double modulus, double remainder)
+{
+    // Adding zero turns a negative zero into a plain one.
+    const double result = remainder + (remainder < 0.0 ? modulus : 0.0);
+    // Lifting a tiny negative value can round to the modulus itself.
+    return result >= modulus ? result - modulus : result;
+}
+
+// The bits of NormalizeMod for a whole modulus without a call of fmod, which divides bit by bit.
+double normalizeWhole(int modulus, double value)
+{
+    constexpr double kLargest = 1e9;
+    if (!(std::fabs(value) < kLargest)) {
+        return NormalizeMod(modulus, value);
+    }
+    // Both the product and the difference are exact. Where the quotient was rounded up to a whole
+    // number, the remainder is a tiny one on the other side of zero, and the exact one again after
+    // it was lifted.
+    const int turns = int(value / modulus);
+    return lifted(modulus, value - double(turns) * modulus);
+}
+
+} // namespace
+
 double NormalizeMod(double modulus, double value)
 {
     assert(modulus > 0.0);
     if (!std::isfinite(value)) {
         return kNotANumber;
     }
-    double result = std::fmod(value, modulus);
-    if (result < 0.0) {
-        result += modulus;
-    }
-    // Lifting a tiny negative value can round to the modulus itself.
-    if (result >= modulus) {
-        result -= modulus;
-    }
-    // Adding zero turns a negative zero into a plain one.
-    return result + 0.0;
+    return lifted(modulus, std::fmod(value, modulus));
 }
 
 double Normalize360(double degrees)
 {
-    return NormalizeMod(360.0, degrees);
+    return normalizeWhole(360, degrees);
 }
 
 double Normalize24(double hours)
 {
-    return NormalizeMod(24.0, hours);
+    return normalizeWhole(24, hours);
 }
 
 double Wrap180(double degrees)

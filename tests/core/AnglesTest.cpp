@@ -37,6 +37,30 @@ TEST(Angles, NormalizeStaysInRangeAndKeepsTheAngle)
     }
 }
 
+TEST(Angles, NormalizeOfWholeModuliGivesTheSameBits)
+{
+    std::mt19937_64 random(kSeed);
+    const auto same = [](double value) {
+        ASSERT_EQ(Normalize360(value), NormalizeMod(360.0, value)) << value;
+        ASSERT_EQ(Normalize24(value), NormalizeMod(24.0, value)) << value;
+    };
+    for (const double range : {1.0, 1e3, 1e6, 1e9, 1e12}) {
+        std::uniform_real_distribution<double> uniform(-range, range);
+        for (int i = 0; i < 100000; ++i) {
+            same(uniform(random));
+        }
+    }
+    // Beside whole turns the quotient rounds to a whole number.
+    for (int turns = -3000000; turns <= 3000000; turns += 7) {
+        for (const double modulus : {360.0, 24.0}) {
+            const double whole = turns * modulus;
+            same(whole);
+            same(std::nextafter(whole, kInfinity));
+            same(std::nextafter(whole, -kInfinity));
+        }
+    }
+}
+
 TEST(Angles, NormalizeAtTheEdges)
 {
     EXPECT_EQ(Normalize360(725.5), 5.5);
