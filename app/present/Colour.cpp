@@ -1,5 +1,7 @@
 #include "app/present/Colour.h"
 
+#include "core/Angles.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -24,6 +26,9 @@ constexpr std::array<ColourRow, kColourRoles> kColours = {{
     {ColourRole::Paper,         0xFFFFFF, 0x1E1F22, 0xFFFFFF},
     {ColourRole::Panel,         0xF5F3EC, 0x26282C, 0xFFFFFF},
     {ColourRole::AscendantCell, 0xFFF4DC, 0x35301F, 0xFFFFFF},
+    {ColourRole::Favourable,    0xEAF6E6, 0x1F3324, 0xFFFFFF},
+    {ColourRole::Unfavourable,  0xFFEDE8, 0x402524, 0xFFFFFF},
+    {ColourRole::Night,         0xECEEF8, 0x252A3D, 0xFFFFFF},
     {ColourRole::Border,        0x5A4A35, 0xB9A98C, 0x000000},
     {ColourRole::Division,      0x736B5E, 0xA79E91, 0x606060},
     {ColourRole::Leader,        0x736B5E, 0xA79E91, 0x606060},
@@ -35,6 +40,20 @@ constexpr std::array<ColourRow, kColourRoles> kColours = {{
     {ColourRole::Outer,         0x0B57A8, 0x8FC2FF, 0x303030},
     {ColourRole::Bindu,         0x8A4B00, 0xF2BE6E, 0x000000},
     {ColourRole::Aspect,        0x2D6FA3, 0x78AEDB, 0x606060},
+    {ColourRole::Cursor,        0xB00020, 0xFF8A80, 0x000000},
+}};
+
+// For -3 to 4, light and dark; 0 is the paper.
+constexpr int kLowestShade = -3;
+constexpr std::array<std::array<std::uint32_t, 2>, 8> kShades = {{
+    {0xF4B8AE, 0x6B2A24},
+    {0xF8D0C8, 0x57302B},
+    {0xFCE6E1, 0x3B2A28},
+    {0xFFFFFF, 0x1E1F22},
+    {0xE6F4E1, 0x24352A},
+    {0xCDEAC4, 0x27492F},
+    {0xAFDDA3, 0x2A5C34},
+    {0x8FCF83, 0x2C6E3A},
 }};
 // clang-format on
 
@@ -48,6 +67,12 @@ constexpr bool inOrderOfTheRoles()
     return true;
 }
 static_assert(inOrderOfTheRoles());
+
+Colour colourOfValue(std::uint32_t value)
+{
+    return {static_cast<std::uint8_t>(value >> 16), static_cast<std::uint8_t>(value >> 8),
+            static_cast<std::uint8_t>(value)};
+}
 
 // One channel as light, after sRGB.
 double linear(std::uint8_t channel)
@@ -70,8 +95,14 @@ Colour colourOf(ColourRole role, ColourScheme scheme)
     const std::uint32_t value = scheme == ColourScheme::Light  ? row.light
                                 : scheme == ColourScheme::Dark ? row.dark
                                                                : row.print;
-    return {static_cast<std::uint8_t>(value >> 16), static_cast<std::uint8_t>(value >> 8),
-            static_cast<std::uint8_t>(value)};
+    return colourOfValue(value);
+}
+
+Colour colourOfShade(int shade, ColourScheme scheme)
+{
+    const int index = core::ClampRange(0, int(kShades.size()) - 1, shade - kLowestShade);
+    return colourOfValue(
+        kShades[static_cast<std::size_t>(index)][scheme == ColourScheme::Dark ? 1 : 0]);
 }
 
 double contrast(Colour one, Colour other)

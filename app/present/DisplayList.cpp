@@ -48,16 +48,17 @@ std::vector<Spot> cornersOf(const Box& box)
 
 std::string_view regionKindName(RegionKind kind)
 {
-    static constexpr std::array<std::string_view, 5> kNames = {"sign", "house", "centre", "point",
-                                                               "more"};
+    static constexpr std::array<std::string_view, 6> kNames = {"sign",  "house", "centre",
+                                                               "point", "more",  "span"};
     return kNames[static_cast<std::size_t>(kind)];
 }
 
 std::string_view colourRoleName(ColourRole role)
 {
     static constexpr std::array<std::string_view, kColourRoles> kNames = {
-        "paper", "panel",     "ascendantCell", "border", "division", "leader", "label",
-        "text",  "ascendant", "arudha",        "minor",  "outer",    "bindu",  "aspect"};
+        "paper",  "panel",    "ascendantCell", "favourable", "unfavourable", "night",
+        "border", "division", "leader",        "label",      "text",         "ascendant",
+        "arudha", "minor",    "outer",         "bindu",      "aspect",       "cursor"};
     return kNames[static_cast<std::size_t>(role)];
 }
 

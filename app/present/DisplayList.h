@@ -85,6 +85,7 @@ enum class RegionKind : std::uint8_t
     Centre, ///< the middle with the data of the chart
     Point,  ///< index 0 to 62, one point of a chart
     More,   ///< points for which there was no room; index is their count
+    Span,   ///< a stretch of time; index into the spans of a strip
 };
 
 /// An area that means something: it can be pointed at, and it is read aloud.

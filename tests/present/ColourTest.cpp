@@ -23,6 +23,21 @@ TEST(Colours, TextsAndLinesStandOutFromEveryArea)
     }
 }
 
+TEST(Colours, TextsStandOutFromEveryShade)
+{
+    for (const ColourScheme scheme :
+         {ColourScheme::Light, ColourScheme::Dark, ColourScheme::Print}) {
+        const Colour ink = colourOf(ColourRole::Text, scheme);
+        for (int shade = -3; shade <= 4; ++shade) {
+            EXPECT_GE(contrast(ink, colourOfShade(shade, scheme)), 4.5) << shade;
+            EXPECT_EQ(colourOfShade(shade, scheme) == colourOf(ColourRole::Paper, scheme),
+                      shade == 0);
+        }
+        EXPECT_EQ(colourOfShade(-9, scheme), colourOfShade(-3, scheme));
+        EXPECT_EQ(colourOfShade(9, scheme), colourOfShade(4, scheme));
+    }
+}
+
 TEST(Colours, ContrastIsThatOfTheGuidelines)
 {
     const Colour black{0, 0, 0};
