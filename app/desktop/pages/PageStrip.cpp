@@ -48,17 +48,40 @@ void PageStrip::setPages(std::vector<present::PageLayout> layouts)
     pages_.clear();
     for (present::PageLayout& layout : layouts) {
         tabs_->addTab(toQt(layout.name));
-        pages_.push_back({std::move(layout), nullptr});
+        pages_.push_back({std::move(layout)});
     }
     showTab(tabs_->currentIndex());
 }
 
 void PageStrip::addPage(present::PageLayout layout)
 {
-    pages_.push_back({std::move(layout), nullptr});
+    pages_.push_back({std::move(layout)});
     const int index = tabs_->addTab(toQt(pages_.back().layout.name));
     tabs_->setCurrentIndex(index);
     showTab(index);
+    emit changed();
+}
+
+void PageStrip::replacePage(int index, present::PageLayout layout)
+{
+    Page& page = pages_[std::size_t(index)];
+    tabs_->setTabText(index, toQt(layout.name));
+    delete page.view;
+    page = Page{std::move(layout)};
+    if (index == current()) {
+        showTab(index);
+    }
+    emit changed();
+}
+
+void PageStrip::closePage(int index)
+{
+    // The tab goes last: its going shows another page, by the index that this has then.
+    delete pages_[std::size_t(index)].view;
+    pages_.erase(pages_.begin() + index);
+    const QSignalBlocker blocker(tabs_);
+    tabs_->removeTab(index);
+    showTab(tabs_->currentIndex());
     emit changed();
 }
 
@@ -111,6 +134,9 @@ void PageStrip::showTab(int index)
         page.view = new PageView(workspace_, page.layout, stack_);
         connect(page.view, &PageView::changed, this, &PageStrip::changed);
         stack_->addWidget(page.view);
+        if (!page.sizes.isEmpty()) {
+            page.view->restoreSizes(page.sizes);
+        }
     }
     stack_->setCurrentWidget(page.view);
     emit currentChanged(index);
@@ -119,10 +145,31 @@ void PageStrip::showTab(int index)
 std::vector<present::PageLayout> PageStrip::layouts() const
 {
     std::vector<present::PageLayout> layouts;
-    for (const Page& page : pages_) {
-        layouts.push_back(page.view != nullptr ? page.view->layout() : page.layout);
+    for (int i = 0; i < count(); ++i) {
+        layouts.push_back(layout(i));
     }
     return layouts;
+}
+
+present::PageLayout PageStrip::layout(int index) const
+{
+    const Page& page = pages_[std::size_t(index)];
+    return page.view != nullptr ? page.view->layout() : page.layout;
+}
+
+QByteArray PageStrip::sizes(int index) const
+{
+    const Page& page = pages_[std::size_t(index)];
+    return page.view != nullptr ? page.view->saveSizes() : page.sizes;
+}
+
+void PageStrip::setSizes(int index, const QByteArray& sizes)
+{
+    Page& page = pages_[std::size_t(index)];
+    page.sizes = sizes;
+    if (page.view != nullptr) {
+        page.view->restoreSizes(sizes);
+    }
 }
 
 } // namespace kestrav::desktop

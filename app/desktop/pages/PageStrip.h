@@ -26,6 +26,9 @@ public:
     /// Replaces all pages. A page is made when it is first shown.
     void setPages(std::vector<present::PageLayout> layouts);
     void addPage(present::PageLayout layout);
+    /// Arranges a page anew, under the name of the layout.
+    void replacePage(int index, present::PageLayout layout);
+    void closePage(int index);
     [[nodiscard]] int count() const;
     [[nodiscard]] int current() const;
     [[nodiscard]] QString name(int index) const;
@@ -36,6 +39,10 @@ public:
     [[nodiscard]] PageView* page() const;
     /// The layouts of all pages as they are now.
     [[nodiscard]] std::vector<present::PageLayout> layouts() const;
+    [[nodiscard]] present::PageLayout layout(int index) const;
+    /// Sizes of the cells of a page, and back; they are kept for pages that were not yet shown.
+    [[nodiscard]] QByteArray sizes(int index) const;
+    void setSizes(int index, const QByteArray& sizes);
 
 signals:
     void currentChanged(int index);
@@ -47,6 +54,7 @@ private:
     {
         present::PageLayout layout;
         PageView* view = nullptr; ///< null until it is first shown
+        QByteArray sizes = {};    ///< for a page that was not yet shown
     };
 
     void showTab(int index);

@@ -117,7 +117,11 @@ TablePanel::TablePanel(Workspace& workspace, present::Panel panel, QWidget* pare
 
 QString TablePanel::title() const
 {
-    return title_.isEmpty() ? toQt(present::findTable(panel_.content)->meaning) : title_;
+    if (!title_.isEmpty()) {
+        return title_;
+    }
+    QString meaning = toQt(std::wstring(present::findTable(panel_.content)->meaning));
+    return meaning.left(1).toUpper() + meaning.mid(1);
 }
 
 QList<QAction*> TablePanel::panelActions()

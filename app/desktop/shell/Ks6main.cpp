@@ -2,8 +2,10 @@
 
 #include "app/desktop/database/OpenDatabase.h"
 #include "app/desktop/pages/DeliveredPages.h"
+#include "app/desktop/pages/PageActions.h"
 #include "app/desktop/pages/PageStrip.h"
 #include "app/desktop/pages/PageView.h"
+#include "app/desktop/pages/SavedPages.h"
 #include "app/desktop/shell/Convert.h"
 #include "app/desktop/shell/DateBar.h"
 #include "app/desktop/shell/Icons.h"
@@ -115,6 +117,7 @@ void TKSVform1::makeMenus()
     for (const auto& [name, title] : titles) {
         menus_[name] = menuBar()->addMenu(title);
     }
+    new PageActions(*this);
     makeOthers();
     makeViewMenu();
     connect(&workspace_, &Workspace::chartChanged, this, [this] {
@@ -226,8 +229,7 @@ void TKSVform1::saveSession()
     state.setValue("window/left", left_ == nullptr || !left_->isHidden());
     state.setValue("window/right", right_ == nullptr || !right_->isHidden());
     state.setValue("window/dateBar", !dateBar_->isHidden());
-    state.setValue("window/page",
-                   pages_->current() < 0 ? QString() : pages_->name(pages_->current()));
+    keepPages(*pages_);
     state.sync();
 }
 
@@ -243,7 +245,7 @@ void TKSVform1::restoreSession()
         right_->setVisible(state.value("window/right", true).toBool());
     }
     dateBar_->setVisible(state.value("window/dateBar", true).toBool());
-    pages_->show(state.value("window/page").toString());
+    restorePages(*pages_);
 }
 
 void TKSVform1::FormClose()

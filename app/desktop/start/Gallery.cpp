@@ -1,5 +1,7 @@
 #include "app/desktop/start/Gallery.h"
 
+#include "app/desktop/pages/PageStrip.h"
+#include "app/desktop/pages/TPageLayoutDlg.h"
 #include "app/desktop/shell/Ks6main.h"
 
 #include <QWidget>
@@ -11,7 +13,12 @@ namespace kestrav::desktop
 
 std::span<const GalleryRow> gallery()
 {
-    static const std::vector<GalleryRow> kRows = {};
+    static const std::vector<GalleryRow> kRows = {
+        {"PageLayoutDlg",
+         [](TKSVform1& window) -> QWidget* {
+             return new TPageLayoutDlg(window.pages().layout(0), &window);
+         }},
+    };
     return kRows;
 }
 

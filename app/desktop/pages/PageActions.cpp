@@ -1,0 +1,267 @@
+#include "app/desktop/pages/PageActions.h"
+
+#include "app/desktop/pages/DeliveredPages.h"
+#include "app/desktop/pages/PageStrip.h"
+#include "app/desktop/pages/SavedPages.h"
+#include "app/desktop/pages/TPageLayoutDlg.h"
+#include "app/desktop/shell/Convert.h"
+#include "app/desktop/shell/Ks6main.h"
+#include "app/desktop/shell/TMessages.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QUndoCommand>
+
+#include <optional>
+#include <utility>
+
+namespace kestrav::desktop
+{
+
+namespace
+{
+
+using Layouts = std::vector<present::PageLayout>;
+
+constexpr int kPagesWithKeys = 9;
+
+// All pages before and after a step; what lies between is small.
+class PagesCommand : public QUndoCommand
+{
+public:
+    PagesCommand(const QString& text, PageStrip& pages, Layouts before, Layouts after,
+                 int beforeIndex, int afterIndex)
+        : QUndoCommand(text), pages_(pages), before_(std::move(before)), after_(std::move(after)),
+          beforeIndex_(beforeIndex), afterIndex_(afterIndex)
+    {}
+
+    void undo() override
+    {
+        pages_.setPages(before_);
+        pages_.show(beforeIndex_);
+    }
+    void redo() override
+    {
+        // The step itself was done before the command was made.
+        if (!std::exchange(done_, true)) {
+            return;
+        }
+        pages_.setPages(after_);
+        pages_.show(afterIndex_);
+    }
+
+private:
+    PageStrip& pages_;
+    Layouts before_;
+    Layouts after_;
+    int beforeIndex_;
+    int afterIndex_;
+    bool done_ = false;
+};
+
+// The page of a name as it was saved, else as it is delivered.
+std::optional<present::PageLayout> originalPage(const std::string& name)
+{
+    std::vector<std::string> problems;
+    for (const Layouts& layouts : {savedPages(problems), deliveredPages(problems)}) {
+        for (const present::PageLayout& layout : layouts) {
+            if (layout.name == name) {
+                return layout;
+            }
+        }
+    }
+    return std::nullopt;
+}
+
+present::PageLayout emptyPage(const QString& name)
+{
+    present::PageLayout layout;
+    layout.name = toUtf8(name);
+    layout.rowWeights = {1};
+    layout.columnWeights = {1};
+    present::Panel panel;
+    panel.kind = present::PanelKind::Diagram;
+    layout.panels = {panel};
+    return layout;
+}
+
+} // namespace
+
+PageActions::PageActions(TKSVform1& window) : QObject(&window), window_(window)
+{
+    using Keys = QKeySequence;
+    const auto add = [&](const Command& command, void (PageActions::*handler)()) {
+        return window_.addCommand(MenuName::Pages, command,
+                                  [this, handler] { (this->*handler)(); });
+    };
+    add({"NewPageAction", tr("&New Page..."), Keys(tr("Ctrl+T")), tr("Composes a new page")},
+        &PageActions::NewPageActionTriggered);
+    auto* const addMenu = window_.menu(MenuName::Pages)->addMenu(tr("&Add Page"));
+    connect(addMenu, &QMenu::aboutToShow, this, [this, addMenu] { fillAddMenu(*addMenu); });
+    add({"PageLayoutAction", tr("&Compose This Page..."), Keys(tr("Ctrl+Shift+L")),
+         tr("Changes which panels the page has and where they stand")},
+        &PageActions::LayoutActionTriggered);
+    add({"RenamePageAction", tr("&Rename This Page...")}, &PageActions::RenameActionTriggered);
+    add({"SavePageAction",
+         tr("&Save This Page"),
+         {},
+         tr("Keeps the page under its name, to be added again or reset to")},
+        &PageActions::SaveActionTriggered);
+    add({"ResetPageAction",
+         tr("Rese&t This Page"),
+         {},
+         tr("Brings the page back as it was saved or delivered")},
+        &PageActions::ResetActionTriggered);
+    add({"ResetPagesAction", tr("Reset &All Pages"), {}, tr("Brings back the delivered pages")},
+        &PageActions::ResetAllActionTriggered);
+    add({"ClosePageAction", tr("C&lose This Page"), Keys(tr("Ctrl+W"))},
+        &PageActions::CloseActionTriggered);
+    window_.menu(MenuName::Pages)->addSeparator();
+    QAction* const undo = undo_.createUndoAction(this, tr("Undo Page Change:"));
+    undo->setObjectName(QStringLiteral("UndoPageAction"));
+    undo->setShortcut(Keys(tr("Ctrl+Alt+Z")));
+    QAction* const redo = undo_.createRedoAction(this, tr("Redo Page Change:"));
+    redo->setObjectName(QStringLiteral("RedoPageAction"));
+    redo->setShortcut(Keys(tr("Ctrl+Alt+Shift+Z")));
+    window_.menu(MenuName::Pages)->addActions({undo, redo});
+    window_.menu(MenuName::Pages)->addSeparator();
+    const auto go = [this](int by) {
+        const int count = window_.pages().count();
+        if (count > 0) {
+            window_.pages().show((window_.pages().current() + by + count) % count);
+        }
+    };
+    window_.addCommand(MenuName::Pages, {"NextPageAction", tr("Ne&xt Page"), Keys(tr("Ctrl+Tab"))},
+                       [go] { go(1); });
+    window_.addCommand(MenuName::Pages,
+                       {"PreviousPageAction", tr("&Previous Page"), Keys(tr("Ctrl+Shift+Tab"))},
+                       [go] { go(-1); });
+    auto* const goMenu = window_.menu(MenuName::Pages)->addMenu(tr("&Go to Page"));
+    connect(goMenu, &QMenu::aboutToShow, this, [this, goMenu] { fillGoMenu(*goMenu); });
+    for (int i = 0; i < kPagesWithKeys; ++i) {
+        auto* const action = new QAction(tr("Page %1").arg(i + 1), this);
+        action->setObjectName(QStringLiteral("Page%1Action").arg(i + 1));
+        action->setShortcut(Keys(QStringLiteral("Ctrl+%1").arg(i + 1)));
+        connect(action, &QAction::triggered, this, [this, i] { window_.pages().show(i); });
+        window_.addAction(action);
+    }
+}
+
+void PageActions::change(const QString& what, const std::function<void()>& step)
+{
+    PageStrip& pages = window_.pages();
+    Layouts before = pages.layouts();
+    const int beforeIndex = pages.current();
+    step();
+    undo_.push(new PagesCommand(what, pages, std::move(before), pages.layouts(), beforeIndex,
+                                pages.current()));
+}
+
+void PageActions::NewPageActionTriggered()
+{
+    TPageLayoutDlg dialog(emptyPage(tr("New page")), &window_);
+    if (dialog.exec() == QDialog::Accepted) {
+        change(tr("new page"), [&] { window_.pages().addPage(dialog.layoutOfPage()); });
+    }
+}
+
+void PageActions::LayoutActionTriggered()
+{
+    const int index = window_.pages().current();
+    if (index < 0) {
+        return;
+    }
+    TPageLayoutDlg dialog(window_.pages().layout(index), &window_);
+    if (dialog.exec() == QDialog::Accepted) {
+        change(tr("compose page"),
+               [&] { window_.pages().replacePage(index, dialog.layoutOfPage()); });
+    }
+}
+
+void PageActions::RenameActionTriggered()
+{
+    const int index = window_.pages().current();
+    if (index < 0) {
+        return;
+    }
+    const auto name = TMessages::text(&window_, tr("Rename Page"), tr("&Name of the page:"),
+                                      window_.pages().name(index));
+    if (!name || name->trimmed().isEmpty()) {
+        return;
+    }
+    present::PageLayout layout = window_.pages().layout(index);
+    layout.name = toUtf8(name->simplified());
+    change(tr("rename page"), [&] { window_.pages().replacePage(index, std::move(layout)); });
+}
+
+void PageActions::SaveActionTriggered()
+{
+    const int index = window_.pages().current();
+    if (index < 0) {
+        return;
+    }
+    if (const auto saved = savePage(window_.pages().layout(index)); saved) {
+        window_.workspace().tell(tr("The page \"%1\" is saved.").arg(window_.pages().name(index)));
+    } else {
+        window_.workspace().tellProblem(toQt(saved.error().text()));
+    }
+}
+
+void PageActions::ResetActionTriggered()
+{
+    const int index = window_.pages().current();
+    if (index < 0) {
+        return;
+    }
+    if (const auto original = originalPage(toUtf8(window_.pages().name(index)))) {
+        change(tr("reset page"), [&] { window_.pages().replacePage(index, *original); });
+    } else {
+        window_.workspace().tellProblem(
+            tr("There is no saved or delivered page \"%1\".").arg(window_.pages().name(index)));
+    }
+}
+
+void PageActions::ResetAllActionTriggered()
+{
+    change(tr("reset pages"), [&] {
+        std::vector<std::string> problems;
+        window_.pages().setPages(deliveredPages(problems));
+    });
+}
+
+void PageActions::CloseActionTriggered()
+{
+    const int index = window_.pages().current();
+    if (index >= 0 && window_.pages().count() > 1) {
+        change(tr("close page"), [&] { window_.pages().closePage(index); });
+    }
+}
+
+void PageActions::fillAddMenu(QMenu& menu)
+{
+    menu.clear();
+    std::vector<std::string> problems;
+    const auto addAll = [&](const Layouts& layouts) {
+        for (const present::PageLayout& layout : layouts) {
+            menu.addAction(toQt(layout.name), this, [this, layout] {
+                change(tr("add page"), [&] { window_.pages().addPage(layout); });
+            });
+        }
+    };
+    addAll(deliveredPages(problems));
+    menu.addSeparator();
+    addAll(savedPages(problems));
+    for (const std::string& problem : problems) {
+        window_.workspace().tellProblem(toQt(problem));
+    }
+}
+
+void PageActions::fillGoMenu(QMenu& menu)
+{
+    menu.clear();
+    for (int i = 0; i < window_.pages().count(); ++i) {
+        menu.addAction(window_.pages().name(i), this, [this, i] { window_.pages().show(i); });
+    }
+}
+
+} // namespace kestrav::desktop
