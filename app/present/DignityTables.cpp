@@ -5,9 +5,13 @@
 #include "analysis/FunctionalNature.h"
 #include "analysis/VargaNames.h"
 #include "analysis/Vargas.h"
+#include "analysis/Vimshopaka.h"
 #include "app/present/TextValues.h"
 #include "app/present/VargaTables.h"
+#include "core/Angles.h"
 #include "core/PointNames.h"
+
+#include <array>
 
 namespace kestrav::present
 {
@@ -47,6 +51,37 @@ Table relationTable(std::string id, const std::wstring& title, const Relation& r
         table.add(std::move(cells));
     }
     return table;
+}
+
+// The shade of a display index, which is the code and 3 but for its refinements.
+int shadeOfDignity(int shown)
+{
+    switch (shown) {
+    case analysis::kDisplayMoolatrikona:
+        return analysis::kOwn;
+    case analysis::kDisplayExalted:
+        return analysis::kExalted;
+    case analysis::kDisplayCancelled:
+        return analysis::kNeutral;
+    case analysis::kDisplayRetrograde:
+        return analysis::kDebilitated;
+    default:
+        return shown - 3;
+    }
+}
+
+// A quarter of the 20 points is one shade.
+Cell vimshopakaCell(const core::Chart& chart, int set, int planet)
+{
+    if (planet > core::kSaturn) {
+        return {}; // the nodes do not score
+    }
+    constexpr std::array<int, 4> kShades = {-2, -1, 1, 3};
+    const int total = at(at(chart.vimshopaka, planet), set);
+    Cell cell = numberCell(analysis::vimshopakaPoints(total), 2);
+    const int quarter = total * 4 / analysis::kFullVimshopaka;
+    cell.shade = at(kShades, core::ClampRange(0, 3, quarter));
+    return cell;
 }
 
 std::wstring reportLabel(const analysis::Nature& nature)
@@ -91,6 +126,27 @@ Table dignitiesTable(const ComputedChart& computed)
             cells.push_back(dignityCell(computed, varga, point, true));
         }
         table.add(std::move(cells));
+    }
+    return table;
+}
+
+Table heatTable(const ComputedChart& computed)
+{
+    Table table = dignitiesTable(computed);
+    table.id = "heat";
+    for (Row& row : table.rows) {
+        for (Cell& cell : row) {
+            if (cell.link.subject == Subject::Point && cell.sortKey && *cell.sortKey >= 0.0) {
+                cell.shade = shadeOfDignity(int(*cell.sortKey));
+            }
+        }
+    }
+    for (int set = 0; set < analysis::kVimshopakaSets; ++set) {
+        Row row = {L"Vimshopaka", analysis::vimshopakaSetName(set)};
+        for (int point = core::kSun; point <= core::kKetu; ++point) {
+            row.push_back(vimshopakaCell(computed.chart, set, point));
+        }
+        table.add(std::move(row));
     }
     return table;
 }

@@ -6,6 +6,7 @@
 #include "analysis/Vargas.h"
 #include "app/present/DashaTables.h"
 #include "app/present/EphemerisTables.h"
+#include "app/present/EventTables.h"
 #include "app/present/InspectorSections.h"
 #include "app/present/TextValues.h"
 #include "app/present/VargaTables.h"
@@ -165,7 +166,9 @@ Inspection inspectMoment(const TableSource& source, double julianDay)
     const core::Chart& chart = source.computed.chart;
     const std::wstring title =
         momentCell(julianDay, clockOf(chart), source.computed.settings.twelveHourClock).text;
-    return {title, {runningSection(source, julianDay), elementSection(source, julianDay)}};
+    return {title,
+            {runningSection(source, julianDay), elementSection(source, julianDay),
+             skyTable(source.computed, source.series, julianDay)}};
 }
 
 // The periods one level deeper into which a period divides.
