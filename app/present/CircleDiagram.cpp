@@ -217,6 +217,7 @@ private:
         Region region;
         region.kind = RegionKind::Sign;
         region.index = sign;
+        region.sign = sign;
         region.polygon = sector(start, 30.0, radii_.points, radii_.signs);
         region.tip = signTip(sign, frame_.houseOf(sign));
         std::vector<std::wstring> contents;
@@ -275,6 +276,7 @@ private:
         region.kind = RegionKind::House;
         region.index = house;
         region.house = house;
+        region.sign = at(houses_.signs, house - 1);
         region.polygon = sector(start, length, radii_.hub, radii_.points);
         region.tip = signTip(at(houses_.signs, house - 1), house);
         std::vector<std::wstring> contents;

@@ -112,6 +112,7 @@ private:
         Region region;
         region.kind = RegionKind::Sign;
         region.index = sign;
+        region.sign = sign;
         region.house = frame_.houseOf(sign);
         region.polygon = std::move(polygon);
         region.tip = signTip(sign, region.house);
@@ -139,6 +140,7 @@ private:
         Region region;
         region.kind = RegionKind::Sign;
         region.index = signOf(cell);
+        region.sign = region.index;
         region.house = frame_.houseOf(region.index);
         region.layer = 1;
         region.polygon = scaled(shape.polygon(), frame_.size);

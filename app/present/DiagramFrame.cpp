@@ -29,6 +29,7 @@ void addPoint(const DiagramFrame& frame, DisplayList& list, const DiagramLabel& 
     spot.index = label.point;
     spot.house = house;
     spot.layer = label.layer;
+    spot.sign = label.sign;
     spot.polygon = cornersOf(box);
     spot.tip = label.tip;
     spot.spoken = label.spoken;
@@ -54,6 +55,7 @@ void addMore(const DiagramFrame& frame, DisplayList& list, std::span<const Diagr
     for (const DiagramLabel& label : hidden) {
         spot.tip += (spot.tip.empty() ? L"" : L"\n") + label.tip;
         spot.spoken += (spot.spoken.empty() ? L"" : L", ") + label.spoken;
+        spot.points.push_back(label.point);
     }
     list.regions.push_back(std::move(spot));
 }

@@ -83,6 +83,12 @@ public:
         label.text = text(label, state);
         label.width = measured(options_, label.text);
         label.spoken = spokenPoint(point, label.position, state, options_.degrees);
+        if (changed(point)) {
+            label.spoken += L" changed";
+        }
+        if (nearBoundary(point)) {
+            label.spoken += L" near a boundary";
+        }
         label.tip = tip(label, state);
         return label;
     }
@@ -103,6 +109,12 @@ private:
     [[nodiscard]] std::wstring text(const DiagramLabel& label, const PointState& state) const
     {
         std::wstring text = shortPointName(options_, label.point);
+        if (changed(label.point)) {
+            text += L'*';
+        }
+        if (nearBoundary(label.point)) {
+            text += L'~';
+        }
         if (options_.retrograde && state.retrograde) {
             text += L"(R)";
         }
@@ -135,7 +147,18 @@ private:
         }
         tip += state.retrograde ? L", retrograde" : L"";
         tip += state.combust ? L", combust" : L"";
-        return tip;
+        tip += changed(label.point) ? L", changed by you" : L"";
+        return nearBoundary(label.point) ? tip + L", near a boundary" : tip;
+    }
+
+    [[nodiscard]] bool changed(int point) const
+    {
+        return layer_ == 0 && options_.changed[std::size_t(point)];
+    }
+
+    [[nodiscard]] bool nearBoundary(int point) const
+    {
+        return options_.boundaries && at(at(chart_.nearBoundary, subject_.varga), point);
     }
 
     const DiagramSubject& subject_;
@@ -144,8 +167,11 @@ private:
     const core::Chart& chart_;
 };
 
-bool wanted(const DiagramOptions& options, int point)
+bool wanted(const DiagramOptions& options, int point, int layer)
 {
+    if (layer == 1 && options.outerPoints) {
+        return (*options.outerPoints)[std::size_t(point)];
+    }
     return options.points[std::size_t(point)] ||
            (options.arudhas && point >= core::kArudhaPada1 && point <= core::kUpapada);
 }
@@ -179,7 +205,7 @@ std::vector<DiagramLabel> pointLabels(const DiagramSubject& subject, const Diagr
     labels.reserve(16);
     const LabelMaker maker(subject, options, layer);
     for (int point = 0; point < core::kPointCount; ++point) {
-        if (!wanted(options, point)) {
+        if (!wanted(options, point, layer)) {
             continue;
         }
         const int sign = diagramSign(chartOfLayer(subject, layer), subject.varga, point);
@@ -227,7 +253,7 @@ std::wstring missingPoints(const DiagramSubject& subject, const DiagramOptions& 
     for (int layer = 0; layer < (subject.outer == nullptr ? 1 : 2); ++layer) {
         for (int point = 0; point < core::kPointCount; ++point) {
             const core::Chart& chart = chartOfLayer(subject, layer);
-            if (wanted(options, point) && diagramSign(chart, subject.varga, point) == 0) {
+            if (wanted(options, point, layer) && diagramSign(chart, subject.varga, point) == 0) {
                 names += (names.empty() ? L"" : L", ") + longPointName(point);
                 names += layer == 1 ? L" of the second chart" : L"";
             }

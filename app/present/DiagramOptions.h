@@ -4,6 +4,7 @@
 #include "app/present/Colour.h"
 #include "app/present/TextWidths.h"
 #include "core/Points.h"
+#include "core/Settings.h"
 
 #include <bitset>
 #include <cstdint>
@@ -74,11 +75,14 @@ struct BinduChoice
 struct DiagramOptions
 {
     PointSet points = mainDiagramPoints();
-    bool arudhas = false; ///< adds the arudha padas of the houses
+    bool arudhas = false;                ///< adds the arudha padas of the houses
+    std::optional<PointSet> outerPoints; ///< of the second chart; none for the same as here
     DegreeForm degrees = DegreeForm::Degrees;
-    bool retrograde = true; ///< "(R)" after planets; the nodes always are and get no mark
-    bool combust = true;    ///< "c"
-    bool dignity = true;    ///< arrows for exalted and debilitated
+    bool retrograde = true;  ///< "(R)" after planets; the nodes always are and get no mark
+    bool combust = true;     ///< "c"
+    bool dignity = true;     ///< arrows for exalted and debilitated
+    PointSet changed;        ///< points of the chart with a longitude of the user's, marked "*"
+    bool boundaries = false; ///< "~" after points that stand near the boundary of a part
     CellLabel labels = CellLabel::Signs;
     PointSet aspectsOf;                ///< planets 1 to 9 whose full aspects are drawn
     std::optional<BinduChoice> bindus; ///< of the varga that is shown
@@ -104,5 +108,8 @@ struct DiagramOptions
     /// centre is the corner of the diagram. For drawings in a terminal, of 72 units.
     bool characterGrid = false;
 };
+
+/// What the settings of the user say about diagrams. The middle is left to the caller.
+[[nodiscard]] DiagramOptions diagramOptionsOf(const core::Settings& settings);
 
 } // namespace kestrav::present

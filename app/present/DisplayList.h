@@ -98,6 +98,8 @@ struct Region
     std::vector<Spot> polygon;
     std::wstring tip;    ///< to show beside the pointer; lines end with a line feed
     std::wstring spoken; ///< to read aloud
+    int sign = 0;        ///< sign 1 to 12 in which the area lies, or that a house has; 0 for none
+    std::vector<int> points = {}; ///< of a More, the points that it stands for
 };
 
 struct DisplayList
