@@ -91,6 +91,12 @@ std::size_t ChartDatabase::addLine(std::string line)
     return size() - 1;
 }
 
+void ChartDatabase::insertLine(std::size_t index, std::string line)
+{
+    lines_.insert(index, std::move(line));
+    modified_ = true;
+}
+
 void ChartDatabase::replace(std::size_t index, const core::Chart& chart)
 {
     replaceLine(index, FormatChartLine(chart, order_));

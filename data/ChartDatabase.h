@@ -77,6 +77,8 @@ public:
     /// Appends a chart and returns its index.
     std::size_t add(const core::Chart& chart);
     std::size_t addLine(std::string line);
+    /// Puts a line before that of the index, which may be size().
+    void insertLine(std::size_t index, std::string line);
     void replace(std::size_t index, const core::Chart& chart);
     void replaceLine(std::size_t index, std::string line);
     void remove(std::size_t index);

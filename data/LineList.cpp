@@ -63,6 +63,18 @@ void LineList::append(std::string line)
     lines_.push_back(std::move(line));
 }
 
+void LineList::insert(std::size_t index, std::string line)
+{
+    if (index == lines_.size()) {
+        append(std::move(line));
+        return;
+    }
+    if (crlf_) {
+        line += '\r';
+    }
+    lines_.insert(lines_.begin() + std::ptrdiff_t(index), std::move(line));
+}
+
 void LineList::replace(std::size_t index, std::string line)
 {
     if (lines_[index].ends_with('\r')) {

@@ -33,6 +33,8 @@ public:
 
     /// The line must not contain a line feed.
     void append(std::string line);
+    /// Puts the line before that of the index, which may be size().
+    void insert(std::size_t index, std::string line);
     void replace(std::size_t index, std::string line);
     void remove(std::size_t index);
 
