@@ -3,14 +3,13 @@
 #include "analysis/VargaNames.h"
 #include "app/present/DashaTables.h"
 #include "app/present/TextValues.h"
-#include "app/present/VargaTables.h"
 #include "core/Angles.h"
 #include "core/Names.h"
 #include "core/PointNames.h"
 #include "core/TextForms.h"
 #include "timing/DashaQuery.h"
 
-#include <algorithm>
+#include <vector>
 
 namespace kestrav::present
 {
@@ -22,12 +21,23 @@ using core::at;
 
 constexpr int kComparedLevels = 3;
 
+// The ascendant and the bodies that a chart has.
+std::vector<int> comparedPoints(const core::Chart& chart)
+{
+    std::vector<int> points;
+    for (int point = 0; point <= core::kPluto; ++point) {
+        if ((point <= core::kKetu || point >= core::kUranus) && chart.computed(point)) {
+            points.push_back(point);
+        }
+    }
+    return points;
+}
+
 std::wstring pointsInSign(const core::Chart& chart, int sign)
 {
     std::wstring names;
-    for (int point = 0; point <= core::kPluto; ++point) {
-        const bool main = point <= core::kKetu || point >= core::kUranus;
-        if (main && chart.computed(point) && at(chart.rashi, point) == sign) {
+    for (const int point : comparedPoints(chart)) {
+        if (at(chart.rashi, point) == sign) {
             names += (names.empty() ? L"" : L", ") + pointLabel(point);
         }
     }
@@ -124,19 +134,19 @@ private:
 
 } // namespace
 
-Table positionsInChart(const ComputedChart& one, const core::Chart& other)
+Table positionsInChart(const core::Chart& one, const core::Chart& other)
 {
     const std::wstring name = other.name.empty() ? L"the other chart" : other.name;
     Table table = {"compare",
-                   (one.chart.name.empty() ? L"Positions" : one.chart.name) + L" in " + name,
+                   (one.name.empty() ? L"Positions" : one.name) + L" in " + name,
                    {{L"Point"},
                     {L"Position"},
                     {L"House", Align::Right},
                     {L"From the Moon", Align::Right},
                     {L"There in this sign"}}};
-    for (const int point : mainPoints(one)) {
-        const double longitude = at(one.chart.longitude, point);
-        const int sign = at(one.chart.rashi, point);
+    for (const int point : comparedPoints(one)) {
+        const double longitude = at(one.longitude, point);
+        const int sign = at(one.rashi, point);
         table.add({pointCell(point),
                    {core::FormatSignPosition(longitude), longitude, {Subject::Sign, sign}},
                    houseFromCell(other, core::kAscendant, sign),
@@ -150,7 +160,7 @@ Table differencesTable(const ComputedChart& one, const ComputedChart& other,
                        const astro::Series& series, double moment)
 {
     Differences differences(one, other);
-    for (const int point : mainPoints(one)) {
+    for (const int point : comparedPoints(one.chart)) {
         differences.addPoint(point);
     }
     differences.addDashas(series, moment);

@@ -10,7 +10,7 @@ namespace kestrav::present
 
 /// Where the points of one chart fall in another: the house counted from the ascendant and from the
 /// Moon of the other, and its points in the same sign. Houses of what is missing are "--".
-[[nodiscard]] Table positionsInChart(const ComputedChart& one, const core::Chart& other);
+[[nodiscard]] Table positionsInChart(const core::Chart& one, const core::Chart& other);
 
 /// What becomes different when the same birth is computed under other settings: the sign,
 /// nakshatra, quarter and placements in the divisional charts of every point, and the dasha lords

@@ -3,8 +3,10 @@
 #include "analysis/Ashtakavarga.h"
 #include "app/present/AshtakavargaTables.h"
 #include "app/present/ChartTables.h"
+#include "app/present/CompareTables.h"
 #include "app/present/DashaTables.h"
 #include "app/present/DignityTables.h"
+#include "app/present/EventTables.h"
 #include "app/present/MatchTables.h"
 #include "app/present/PanchangaTables.h"
 #include "app/present/PersonTables.h"
@@ -154,6 +156,30 @@ Made matchingTable(const TableSource& source)
     return matching ? Made(Make(matching.value())) : matching.error();
 }
 
+// The chart of the comparison that is not the one of the source.
+const core::Chart* secondChart(const TableSource& source)
+{
+    return source.groom == &source.computed.chart ? source.bride : source.groom;
+}
+
+Made comparedWithSecond(const TableSource& source)
+{
+    const core::Chart* const second = secondChart(source);
+    return second == nullptr ? Made(core::Error{"needs a second chart"})
+                             : positionsInChart(source.computed.chart, *second);
+}
+
+Made comparedWithFirst(const TableSource& source)
+{
+    const core::Chart* const second = secondChart(source);
+    if (second == nullptr) {
+        return core::Error{"needs a second chart"};
+    }
+    Table table = positionsInChart(*second, source.computed.chart);
+    table.id = "compare-back";
+    return table;
+}
+
 Made yogasOfChart(const TableSource& source)
 {
     if (source.yogas == nullptr) {
@@ -165,7 +191,7 @@ Made yogasOfChart(const TableSource& source)
     return yogasTable(*source.yogas, subject);
 }
 
-const std::array<TableInfo, 62> kTables = {{
+const std::array<TableInfo, 65> kTables = {{
     {"birth-data", L"name, place, date, time and coordinates", chartTable<birthTable>},
     {"time", L"Universal Time, Delta T, Julian day, ayanamsa, sidereal time",
      chartTable<timeTable>},
@@ -244,7 +270,13 @@ const std::array<TableInfo, 62> kTables = {{
      eclipsedPointsOfDays},
     {"kutas", L"points of a comparison with a second chart", matchingTable<kutasTable>},
     {"doshas", L"doshas of that comparison", matchingTable<doshasTable>},
+    {"compare", L"positions in the houses of a second chart", comparedWithSecond},
+    {"compare-back", L"positions of a second chart in the houses of this one", comparedWithFirst},
     {"events", L"the events of the native's life", chartTable<eventsTable>},
+    {"event-transits", L"these events with their dashas and transits",
+     [](const TableSource& source) -> Made {
+         return eventTransitsTable(source.computed, source.series);
+     }},
     {"contact", L"where the native can be reached", chartTable<contactTable>},
 }};
 

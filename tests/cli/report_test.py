@@ -130,6 +130,15 @@ class Tables(ReportTest):
                              [kuta["why"] for kuta in match["kutas"]])
         self.assertNotEqual(totals[0], totals[1])
 
+    def test_comparison_of_positions(self):
+        # Where a point of one chart falls in the other, and the other way round: houses counted
+        # forwards and backwards make 14, or 2 in the same sign.
+        second = [*SECOND, "--with-lat", "23N02", "--with-lon", "72E35"]
+        there = dict((row[0], int(row[2])) for row in self.cells("compare", *second))
+        back = dict((row[0], int(row[2])) for row in self.cells("compare-back", *second))
+        self.assertIn(there["Ascendant"] + back["Ascendant"], (2, 14))
+        self.assertEqual(there.keys(), back.keys())
+
     def test_yogas_have_reasons(self):
         table = self.table("yogas", "--yogas", self.yogas())
         self.assertEqual(table["title"], "1 of 2 yogas hold")
@@ -143,6 +152,7 @@ class Tables(ReportTest):
                 (["table", "positions", *EXAMPLE, "--format", "xml"], "--format 'xml'"),
                 (["table", "positions", *EXAMPLE, "--levels", "6"], "--levels '6'"),
                 (["table", "kutas", *EXAMPLE], "kutas: needs a second chart"),
+                (["table", "compare", *EXAMPLE], "compare: needs a second chart"),
                 (["table", "tithis", *EXAMPLE[:6]], "tithis: a panchanga needs"),
                 (["table", "transits", *EXAMPLE, "--at", "8500-01-01"], "outside the years"),
                 (["report", *EXAMPLE, "--section", "nothing"], "no report section 'nothing'"),

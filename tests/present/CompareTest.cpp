@@ -47,17 +47,17 @@ TEST(CompareTables, PositionsFallInTheHousesOfTheOtherChart)
     // Two hours later the ascendant is in Libra; the Moon is still in Aquarius.
     const ComputedChart other = delhiAt(16.5);
     ASSERT_EQ(at(other.chart.rashi, core::kAscendant), 7);
-    const Table table = positionsInChart(one, other.chart);
+    const Table table = positionsInChart(one.chart, other.chart);
     const Row& mars = *rowOf(table, L"Mars"); // in Pisces
     EXPECT_EQ(mars[2].text, L"6");
     EXPECT_EQ(mars[3].text, L"2");
     const Row& ascendant = *rowOf(table, L"Ascendant"); // in Virgo
     EXPECT_EQ(ascendant[2].text, L"12");
-    EXPECT_EQ(rowOf(positionsInChart(other, one.chart), L"Ascendant")->at(2).text, L"2");
+    EXPECT_EQ(rowOf(positionsInChart(other.chart, one.chart), L"Ascendant")->at(2).text, L"2");
     EXPECT_NE(rowOf(table, L"Jupiter")->at(4).text.find(L"Sun"), std::wstring::npos);
     ComputedChart bare = other;
     at(bare.chart.degreeInSign, core::kAscendant) = core::kNotComputed;
-    EXPECT_EQ(rowOf(positionsInChart(one, bare.chart), L"Mars")->at(2).text, L"--");
+    EXPECT_EQ(rowOf(positionsInChart(one.chart, bare.chart), L"Mars")->at(2).text, L"--");
 }
 
 TEST(CompareTables, DifferencesAreExactlyWhatChanges)
