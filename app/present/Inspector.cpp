@@ -101,8 +101,6 @@ std::vector<Table> nakshatraSections(const TableSource& source, int nakshatra)
 namespace
 {
 
-using core::at;
-
 std::wstring signTitle(int sign, int varga, int house)
 {
     std::wstring title(core::signNameLong(sign));

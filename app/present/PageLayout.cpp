@@ -329,7 +329,7 @@ core::Result<void> checkPageLayout(const PageLayout& layout)
     std::vector<bool> covered(layout.rowWeights.size() * width, false);
     for (const Panel& panel : layout.panels) {
         if (const core::Result<void> content = checkContent(panel, layout.medium); !content) {
-            return content;
+            return content.error();
         }
         if (!inside(panel, layout)) {
             return core::Error{"the " + panelName(panel) + " lies outside the grid"};

@@ -73,7 +73,7 @@ private:
 
     // A bar with its name and its times as tip.
     [[nodiscard]] TimeSpan bar(const HourSpan& hours, std::wstring name,
-                               std::wstring note = {}) const
+                               const std::wstring& note = {}) const
     {
         TimeSpan span;
         span.from = momentOf(hours.start);
@@ -150,7 +150,7 @@ private:
                              std::wstring_view nakshatra = {}) {
             std::wstring note = good ? L"favourable" : L"avoid";
             note += nakshatra.empty() ? L"" : L", of " + std::wstring(nakshatra);
-            lane.spans.push_back(bar(hours, name, std::move(note)));
+            lane.spans.push_back(bar(hours, name, note));
             lane.spans.back().area = good ? ColourRole::Favourable : ColourRole::Unfavourable;
         };
         const auto addIf = [&](const wchar_t* name, const std::optional<HourSpan>& hours,
