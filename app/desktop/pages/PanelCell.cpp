@@ -112,14 +112,26 @@ PanelCell::PanelCell(Workspace& workspace, const present::Panel& panel, QWidget*
     showCaption();
 }
 
+QString PanelCell::captionText() const
+{
+    const QString text = panel_->title();
+    if (panel_->pinnedChart()) {
+        return tr("%1 (%2)").arg(text, toQt(panel_->pinnedChart()->chart.name));
+    }
+    switch (panel_->panel().chart) {
+    case present::PanelChart::Second:
+        return tr("%1 (second chart)").arg(text);
+    case present::PanelChart::Moment:
+        return tr("%1 (shared date)").arg(text);
+    case present::PanelChart::Natal:
+        break;
+    }
+    return text;
+}
+
 void PanelCell::showCaption()
 {
-    QString text = panel_->title();
-    if (panel_->panel().chart == present::PanelChart::Second) {
-        text = tr("%1 (second chart)").arg(text);
-    } else if (panel_->panel().chart == present::PanelChart::Moment) {
-        text = tr("%1 (shared date)").arg(text);
-    }
+    const QString text = captionText();
     caption_->setText(text);
     caption_->setToolTip(text);
     panel_->setAccessibleName(text);

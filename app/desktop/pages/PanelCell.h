@@ -27,6 +27,7 @@ public:
     {
         return panel_;
     }
+    [[nodiscard]] QString captionText() const;
     /// The panel's own actions and the common ones, as the menu button shows them.
     void fillMenu(QMenu& menu);
 

@@ -1,9 +1,16 @@
 #include "app/desktop/pages/PanelFactory.h"
 
+#include "app/desktop/diagram/DiagramGridPanel.h"
 #include "app/desktop/diagram/DiagramPanel.h"
+#include "app/desktop/inspector/HeatPanel.h"
+#include "app/desktop/inspector/InspectorPanel.h"
 #include "app/desktop/panels/TablePanel.h"
 #include "app/desktop/panels/TextPanel.h"
 #include "app/desktop/panels/UnknownPanel.h"
+#include "app/desktop/timing/DashaTreePanel.h"
+#include "app/desktop/timing/LifeBarPanel.h"
+#include "app/desktop/timing/PanchangaStripsPanel.h"
+#include "app/desktop/timing/TPanchangForm.h"
 
 #include <string_view>
 
@@ -30,6 +37,14 @@ struct ViewRow
 // The views by the names of present::panelViews().
 constexpr ViewRow kViews[] = {
     {"notes", make<TextPanel>},
+    {"varga-grid", make<VargaGridPanel>},
+    {"bindu-grid", make<BinduGridPanel>},
+    {"inspector", make<InspectorPanel>},
+    {"heat", make<HeatPanel>},
+    {"dasha-tree", make<DashaTreePanel>},
+    {"life-bar", make<LifeBarPanel>},
+    {"panchanga", make<TPanchangForm>},
+    {"panchanga-strips", make<PanchangaStripsPanel>},
 };
 
 } // namespace

@@ -54,9 +54,10 @@ public:
 
     /// Keeps showing the chart that it shows now, whatever is opened; false lets it follow again.
     void pin(bool pinned);
-    [[nodiscard]] bool pinned() const
+    /// The chart that is kept; null while the panel follows.
+    [[nodiscard]] const ChartPointer& pinnedChart() const
     {
-        return pinned_ != nullptr;
+        return pinned_;
     }
     /// Larger or smaller letters in this panel only, in percent.
     void setZoom(int percent);

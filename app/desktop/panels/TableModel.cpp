@@ -1,6 +1,10 @@
 #include "app/desktop/panels/TableModel.h"
 
+#include "app/desktop/diagram/DisplayListPainter.h"
 #include "app/desktop/shell/Convert.h"
+#include "app/desktop/shell/Theme.h"
+
+#include <QBrush>
 
 #include <algorithm>
 #include <numeric>
@@ -62,6 +66,11 @@ QVariant TableModel::data(const QModelIndex& index, int role) const
             table_.columns[std::size_t(index.column())].align == present::Align::Right;
         return int((right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     }
+    case Qt::BackgroundRole:
+        return shown->shade ? QVariant(QBrush(toQt(present::colourOfShade(
+                                  *shown->shade, isDark() ? present::ColourScheme::Dark
+                                                          : present::ColourScheme::Light))))
+                            : QVariant();
     default:
         return {};
     }

@@ -1,5 +1,6 @@
 #include "app/desktop/panels/TextPanel.h"
 
+#include "app/desktop/report/DocumentBrowser.h"
 #include "app/desktop/shell/Convert.h"
 #include "app/present/ReportSections.h"
 #include "app/present/TableCatalogue.h"
@@ -87,7 +88,7 @@ void TextPanel::refresh()
             blocks_ = std::move(made);
             present::Document document;
             document.blocks = blocks_;
-            browser_->setHtml(toQt(present::documentHtml(document)));
+            browser_->setHtml(documentForBrowser(document, *browser_));
         });
 }
 

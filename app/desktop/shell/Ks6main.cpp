@@ -1,16 +1,22 @@
 #include "app/desktop/shell/Ks6main.h"
 
 #include "app/desktop/database/OpenDatabase.h"
+#include "app/desktop/entry/EntryActions.h"
+#include "app/desktop/inspector/InspectorPanel.h"
+#include "app/desktop/options/OptionsActions.h"
 #include "app/desktop/pages/DeliveredPages.h"
 #include "app/desktop/pages/PageActions.h"
 #include "app/desktop/pages/PageStrip.h"
 #include "app/desktop/pages/PageView.h"
 #include "app/desktop/pages/SavedPages.h"
+#include "app/desktop/printing/PrintActions.h"
+#include "app/desktop/shell/ChangedPointsText.h"
 #include "app/desktop/shell/Convert.h"
 #include "app/desktop/shell/DateBar.h"
 #include "app/desktop/shell/Icons.h"
 #include "app/desktop/shell/NewsBar.h"
 #include "app/desktop/shell/StateFile.h"
+#include "app/desktop/shell/StatusLine.h"
 #include "app/desktop/shell/TMessages.h"
 #include "app/desktop/shell/Theme.h"
 
@@ -130,10 +136,15 @@ void TKSVform1::makeMenus()
 // The commands of every part of the program, in the order in which they stand in the menus.
 void TKSVform1::makeOthers()
 {
+    setRightPane(makeInspectorPane(workspace_, this));
+    new PrintActions(*this);
     addCommand(MenuName::File,
                {"QuitAction", tr("&Quit"), QKeySequence(tr("Ctrl+Q")), tr("Leaves the program"),
                 "application-exit"},
                [this] { close(); });
+    new OptionsActions(*this);
+    new StatusLine(*this);
+    new EntryActions(*this);
 }
 
 void TKSVform1::makeViewMenu()
@@ -215,7 +226,10 @@ void TKSVform1::showTitle()
         title = toQt(file.filename()) + QStringLiteral("[*] \u2013 ") + title;
     }
     if (workspace_.chart()) {
-        title = toQt(workspace_.chart()->chart.name) + QStringLiteral(" \u2013 ") + title;
+        const QString changed = changedPointsText(workspace_.changedPoints());
+        title = toQt(workspace_.chart()->chart.name) +
+                (changed.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(changed)) +
+                QStringLiteral(" \u2013 ") + title;
     }
     setWindowTitle(title);
     setWindowModified(workspace_.database().modified());

@@ -1,0 +1,137 @@
+#include "app/desktop/report/DocumentBrowser.h"
+
+#include "app/desktop/diagram/DisplayListPainter.h"
+#include "app/desktop/shell/Convert.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QTextBrowser>
+#include <QUrl>
+
+#include <cmath>
+#include <variant>
+
+namespace kestrav::desktop
+{
+
+namespace
+{
+
+QString escaped(const std::wstring& text)
+{
+    return toQt(text).trimmed().toHtmlEscaped();
+}
+
+class BrowserHtml
+{
+public:
+    explicit BrowserHtml(QTextBrowser& browser) : browser_(browser)
+    {}
+
+    QString write(const present::Document& document)
+    {
+        if (!document.title.empty()) {
+            html_ += QStringLiteral("<h1>%1</h1>").arg(escaped(document.title));
+        }
+        for (const std::wstring& line : document.head) {
+            html_ += escaped(line) + QStringLiteral("<br>");
+        }
+        for (const present::Block& block : document.blocks) {
+            std::visit([this](const auto& part) { add(part); }, block);
+        }
+        return html_;
+    }
+
+private:
+    void add(const present::Heading& heading)
+    {
+        html_ += QStringLiteral("<h2>%1</h2>").arg(escaped(heading.text));
+    }
+
+    void add(const present::Paragraph& paragraph)
+    {
+        const QString text = toQt(paragraph.text).toHtmlEscaped();
+        html_ += paragraph.fixedPitch
+                     ? QStringLiteral("<pre>%1</pre>").arg(text)
+                     : QStringLiteral("<p style=\"white-space: pre-wrap\">%1</p>").arg(text);
+    }
+
+    void add(const present::Table& table)
+    {
+        if (!table.title.empty()) {
+            html_ += QStringLiteral("<h3>%1</h3>").arg(escaped(table.title));
+        }
+        if (!table.explainsItsEmptiness()) {
+            html_ += QStringLiteral("<table cellspacing=\"0\" cellpadding=\"2\">");
+            if (!table.withoutHeadings()) {
+                html_ += QStringLiteral("<tr>");
+                for (const present::Column& column : table.columns) {
+                    cell(QStringLiteral("th"), column.heading, column.align);
+                }
+                html_ += QStringLiteral("</tr>");
+            }
+            for (const present::Row& row : table.rows) {
+                html_ += QStringLiteral("<tr>");
+                for (std::size_t i = 0; i < row.size() && i < table.columns.size(); ++i) {
+                    cell(QStringLiteral("td"), row[i].text, table.columns[i].align);
+                }
+                html_ += QStringLiteral("</tr>");
+            }
+            html_ += QStringLiteral("</table>");
+        }
+        for (const std::wstring& note : table.notes) {
+            html_ += QStringLiteral("<p>%1</p>").arg(escaped(note));
+        }
+    }
+
+    void cell(const QString& tag, const std::wstring& text, present::Align align)
+    {
+        html_ += QStringLiteral("<%1 align=\"%2\">%3&nbsp;&nbsp;</%1>")
+                     .arg(tag,
+                          align == present::Align::Right ? QStringLiteral("right")
+                                                         : QStringLiteral("left"),
+                          escaped(text));
+    }
+
+    void add(const present::DrawingRow& row)
+    {
+        for (const present::Drawing& drawing : row.drawings) {
+            const double ratio = browser_.devicePixelRatioF();
+            const QSize pixels(int(std::ceil(drawing.list.width * ratio)),
+                               int(std::ceil(drawing.list.height * ratio)));
+            if (pixels.isEmpty()) {
+                continue;
+            }
+            QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
+            image.setDevicePixelRatio(ratio);
+            image.fill(Qt::white);
+            QPainter painter(&image);
+            paintDisplayList(painter, drawing.list, browser_.font());
+            painter.end();
+            const QString name = QStringLiteral("drawing%1").arg(++drawings_);
+            browser_.document()->addResource(QTextDocument::ImageResource, QUrl(name), image);
+            html_ += QStringLiteral("<img src=\"%1\" width=\"%2\" height=\"%3\"> ")
+                         .arg(name)
+                         .arg(int(drawing.list.width))
+                         .arg(int(drawing.list.height));
+        }
+    }
+
+    void add(const present::PageBreak& /*pageBreak*/)
+    {
+        html_ += QStringLiteral("<hr>");
+    }
+
+    QTextBrowser& browser_;
+    QString html_;
+    int drawings_ = 0;
+};
+
+} // namespace
+
+QString documentForBrowser(const present::Document& document, QTextBrowser& browser)
+{
+    return BrowserHtml(browser).write(document);
+}
+
+} // namespace kestrav::desktop
