@@ -7,6 +7,7 @@
 #include "app/desktop/panels/TablePanel.h"
 #include "app/desktop/panels/TextPanel.h"
 #include "app/desktop/panels/UnknownPanel.h"
+#include "app/desktop/report/TReportForm.h"
 #include "app/desktop/timing/DashaTreePanel.h"
 #include "app/desktop/timing/LifeBarPanel.h"
 #include "app/desktop/timing/PanchangaStripsPanel.h"
@@ -37,6 +38,7 @@ struct ViewRow
 // The views by the names of present::panelViews().
 constexpr ViewRow kViews[] = {
     {"notes", make<TextPanel>},
+    {"report", make<TReportForm>},
     {"varga-grid", make<VargaGridPanel>},
     {"bindu-grid", make<BinduGridPanel>},
     {"inspector", make<InspectorPanel>},

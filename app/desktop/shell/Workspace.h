@@ -145,6 +145,8 @@ signals:
     /// Somebody asks to see a page, by its name, or the help topic of a panel or form.
     void pageWanted(const QString& name);
     void helpWanted(const QString& panelOrForm);
+    /// Somebody asks to see a setting in the options, by its name.
+    void settingWanted(const QString& name);
 
 private:
     ChartPointer compute(const core::Chart& record, bool withChanges);
