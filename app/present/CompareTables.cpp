@@ -3,7 +3,7 @@
 #include "analysis/VargaNames.h"
 #include "app/present/DashaTables.h"
 #include "app/present/TextValues.h"
-#include "core/Angles.h"
+#include "app/present/VargaTables.h"
 #include "core/Names.h"
 #include "core/PointNames.h"
 #include "core/TextForms.h"
@@ -42,14 +42,6 @@ std::wstring pointsInSign(const core::Chart& chart, int sign)
         }
     }
     return names;
-}
-
-Cell houseFromCell(const core::Chart& chart, int reference, int sign)
-{
-    if (!chart.computed(reference)) {
-        return core::kNoName;
-    }
-    return integerCell(core::norm12(sign - at(chart.rashi, reference) + 1));
 }
 
 // The rows of what differs.
@@ -149,8 +141,8 @@ Table positionsInChart(const core::Chart& one, const core::Chart& other)
         const int sign = at(one.rashi, point);
         table.add({pointCell(point),
                    {core::FormatSignPosition(longitude), longitude, {Subject::Sign, sign}},
-                   houseFromCell(other, core::kAscendant, sign),
-                   houseFromCell(other, core::kMoon, sign),
+                   countCell(countedFrom(other, core::kAscendant, sign)),
+                   countCell(countedFrom(other, core::kMoon, sign)),
                    pointsInSign(other, sign)});
     }
     return table;

@@ -5,6 +5,7 @@
 #include "app/present/LifeBar.h"
 #include "app/present/PersonTables.h"
 #include "app/present/TextValues.h"
+#include "app/present/VargaTables.h"
 #include "core/Angles.h"
 #include "core/PointNames.h"
 #include "core/SignData.h"
@@ -45,21 +46,6 @@ std::vector<DatedEvent> usableEvents(const core::Chart& chart)
     return events;
 }
 
-// The house of a sign from a point of the chart; "--" without it.
-std::wstring houseText(const core::Chart& chart, int reference, int sign)
-{
-    return chart.computed(reference)
-               ? std::to_wstring(core::norm12(sign - at(chart.rashi, reference) + 1))
-               : std::wstring(core::kNoName);
-}
-
-Cell houseCell(const core::Chart& chart, int reference, int sign)
-{
-    return chart.computed(reference)
-               ? integerCell(core::norm12(sign - at(chart.rashi, reference) + 1))
-               : Cell(core::kNoName);
-}
-
 core::Result<timing::Dasha> dashaOfChart(const ComputedChart& computed, const astro::Series& series)
 {
     return timing::dashaOf(computed.chart, computed.settings,
@@ -92,8 +78,9 @@ Cell transitCell(const core::Chart& chart, timing::SiderealSky& sky, int body, d
         return core::kNoName;
     }
     const int sign = core::signOfLongitude(longitude);
-    return {std::wstring(core::SignName3(sign)) + L" " + houseText(chart, core::kAscendant, sign) +
-                L"/" + houseText(chart, core::kMoon, sign),
+    return {std::wstring(core::SignName3(sign)) + L" " +
+                countCell(countedFrom(chart, core::kAscendant, sign)).text + L"/" +
+                countCell(countedFrom(chart, core::kMoon, sign)).text,
             longitude,
             {Subject::Sign, sign}};
 }
@@ -192,8 +179,8 @@ Table skyTable(const ComputedChart& computed, const astro::Series& series, doubl
              {core::FormatSignPosition(position.longitude) + (position.speed < 0.0 ? L" R" : L""),
               position.longitude,
               {Subject::Sign, sign}},
-             houseCell(chart, core::kAscendant, sign),
-             houseCell(chart, core::kMoon, sign)});
+             houseCell(countedFrom(chart, core::kAscendant, sign)),
+             countCell(countedFrom(chart, core::kMoon, sign))});
     }
     return table;
 }

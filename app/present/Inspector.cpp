@@ -169,6 +169,22 @@ Inspection inspectMoment(const TableSource& source, double julianDay)
              skyTable(source.computed, source.series, julianDay)}};
 }
 
+// Whether there is a thing of the link's number.
+bool exists(const Link& about)
+{
+    struct Range
+    {
+        int first;
+        int last;
+    };
+    const Range range = about.subject == Subject::Point       ? Range{0, core::kPointCount - 1}
+                        : about.subject == Subject::Varga     ? Range{0, core::kVargaCount - 1}
+                        : about.subject == Subject::Nakshatra ? Range{0, 26}
+                        : about.subject == Subject::Moment    ? Range{0, 0}
+                                                              : Range{1, 12};
+    return about.index >= range.first && about.index <= range.last;
+}
+
 // The periods one level deeper into which a period divides.
 std::vector<timing::DashaPeriod> subPeriods(const timing::Dasha& dasha,
                                             const timing::DashaPeriod& period)
@@ -193,6 +209,9 @@ std::vector<timing::DashaPeriod> subPeriods(const timing::Dasha& dasha,
 
 Inspection inspect(const TableSource& source, const Link& about)
 {
+    if (!exists(about)) {
+        return {};
+    }
     const int varga = core::ClampRange(0, core::kVargaCount - 1, about.varga);
     switch (about.subject) {
     case Subject::Point:

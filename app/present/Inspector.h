@@ -18,8 +18,8 @@ struct Inspection
 };
 
 /// Everything about a point, sign, house, divisional chart, nakshatra or moment of the chart of the
-/// source. The library of yogas and the tables of matching are used where the source has them. What
-/// the chart does not have is said in notes.
+/// source; nothing for a number that does not exist. The library of yogas and the tables of
+/// matching are used where the source has them. What the chart does not have is said in notes.
 [[nodiscard]] Inspection inspect(const TableSource& source, const Link& about);
 
 /// A period of the chosen dasha: its dates, its sub-periods and where its lord stands.

@@ -7,11 +7,9 @@
 #include "analysis/ExplainText.h"
 #include "analysis/NakshatraLords.h"
 #include "analysis/VargaNames.h"
-#include "analysis/Vargas.h"
 #include "app/present/StrengthTables.h"
 #include "app/present/TextValues.h"
 #include "app/present/VargaTables.h"
-#include "core/Angles.h"
 #include "core/PointNames.h"
 #include "core/TextForms.h"
 
@@ -41,12 +39,6 @@ bool isBody(int point)
     return std::find(core::kBodies.begin(), core::kBodies.end(), point) != core::kBodies.end();
 }
 
-Cell houseCell(int house, int varga)
-{
-    return house == 0 ? Cell(core::kNoName)
-                      : Cell(std::to_wstring(house), double(house), {Subject::House, house, varga});
-}
-
 Table vargaSection(const ComputedChart& computed, int point)
 {
     Table table = {"placements",
@@ -62,12 +54,13 @@ Table vargaSection(const ComputedChart& computed, int point)
         const bool near = at(at(computed.chart.nearBoundary, varga), point);
         Cell sign = signCell(placement.sign, varga);
         sign.text += near ? L" *" : L"";
-        table.add({vargaCell(varga),
-                   analysis::vargaName(varga),
-                   std::move(sign),
-                   houseCell(houseInVarga(computed.chart, placement.sign, varga), varga),
-                   {core::FormatDMS(placement.position, 1), placement.position},
-                   vargaDignityCell(computed, varga, point)});
+        table.add(
+            {vargaCell(varga),
+             analysis::vargaName(varga),
+             std::move(sign),
+             houseCell(countedFrom(computed.chart, core::kAscendant, placement.sign, varga), varga),
+             {core::FormatDMS(placement.position, 1), placement.position},
+             vargaDignityCell(computed, varga, point)});
     }
     table.notes.push_back(boundaryNote(computed.settings));
     return table;
@@ -261,12 +254,6 @@ Table explanationSection(const ComputedChart& computed, int point)
 
 } // namespace
 
-int houseInVarga(const core::Chart& chart, int sign, int varga)
-{
-    const int first = analysis::signInVarga(chart, varga, core::kAscendant);
-    return first == 0 || sign == 0 ? 0 : core::norm12(sign - first + 1);
-}
-
 Table positionSection(const ComputedChart& computed, int point)
 {
     const core::Chart& chart = computed.chart;
@@ -282,7 +269,7 @@ Table positionSection(const ComputedChart& computed, int point)
     table.add(
         {L"Position", {core::FormatSignPosition(longitude), longitude, {Subject::Sign, sign}}});
     table.add({L"Longitude", {core::FormatDMS(longitude, 1), longitude}});
-    table.add({L"House", houseCell(houseInVarga(chart, sign, core::kRashi), core::kRashi)});
+    table.add({L"House", houseCell(countedFrom(chart, core::kAscendant, sign))});
     table.add({L"Lord of the sign", pointCell(analysis::signLord(sign))});
     table.add({L"Nakshatra", quarterCell(star)});
     table.add({L"Lord of the nakshatra", pointCell(analysis::nakshatraLord(star))});

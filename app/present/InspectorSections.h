@@ -22,9 +22,6 @@ namespace kestrav::present::inspecting
 [[nodiscard]] std::vector<Table> signSections(const TableSource& source, int sign, int varga,
                                               int house);
 
-/// The house of a sign counted from the ascendant of a divisional chart; 0 without ascendant.
-[[nodiscard]] int houseInVarga(const core::Chart& chart, int sign, int varga);
-
 /// A nakshatra 0 to 26.
 [[nodiscard]] std::vector<Table> nakshatraSections(const TableSource& source, int nakshatra);
 

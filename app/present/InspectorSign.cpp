@@ -36,11 +36,6 @@ struct Place
 
 constexpr std::array<std::wstring_view, 3> kModalities = {L"movable", L"fixed", L"dual"};
 
-Cell houseCell(int house, int varga)
-{
-    return {std::to_wstring(house), double(house), {Subject::House, house, varga}};
-}
-
 void addHouse(Table& table, const Place& place)
 {
     const ComputedChart& computed = place.source.computed;
@@ -58,16 +53,16 @@ Table headSection(const Place& place)
     const core::Settings& settings = place.source.computed.settings;
     Table table = labelledTable("sign", L"Sign and lord");
     table.add({L"Sign", signCell(place.sign, place.varga)});
-    if (const int house = houseInVarga(place.chart, place.sign, place.varga); house > 0) {
-        table.add({L"House", houseCell(house, place.varga)});
-    }
+    const auto house = [&place](int sign) {
+        return houseCell(countedFrom(place.chart, core::kAscendant, sign, place.varga),
+                         place.varga);
+    };
+    table.add({L"House", house(place.sign)});
     const int lord = analysis::lordOfSign(place.view, place.sign, settings.coLords);
     table.add({L"Lord", pointCell(lord, place.varga)});
     const int lordSign = at(place.view.sign, lord);
     table.add({L"Lord stands in", signCell(lordSign, place.varga)});
-    if (const int house = houseInVarga(place.chart, lordSign, place.varga); house > 0) {
-        table.add({L"That is house", houseCell(house, place.varga)});
-    }
+    table.add({L"That is house", house(lordSign)});
     table.add({L"Kind", at(kModalities, analysis::signModality(place.sign))});
     const int seventh = core::norm12(place.sign + 6);
     const int stronger = analysis::strongerSign(place.view, place.sign, seventh);

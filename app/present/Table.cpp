@@ -55,6 +55,14 @@ Cell signCell(int sign, int varga)
     return {std::wstring(core::signNameLong(sign)), double(sign), {Subject::Sign, sign, varga}};
 }
 
+Cell houseCell(int house, int varga)
+{
+    if (house == 0) {
+        return core::kNoName;
+    }
+    return {std::to_wstring(house), double(house), {Subject::House, house, varga}};
+}
+
 Cell quarterCell(double position)
 {
     const int nakshatra = nakshatraOf(position);
@@ -68,6 +76,11 @@ Cell numberCell(const std::optional<double>& value, int decimals)
     Cell cell(numberOrNone(value, decimals));
     cell.sortKey = value;
     return cell;
+}
+
+Cell countCell(int count)
+{
+    return count == 0 ? Cell(core::kNoName) : integerCell(count);
 }
 
 Cell integerCell(int value)

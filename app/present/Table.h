@@ -108,6 +108,9 @@ struct Table
 /// A cell that leads to a sign, with its long name and the sign as sort key; "--" for 0.
 [[nodiscard]] Cell signCell(int sign, int varga = 0);
 
+/// A cell that leads to a house 1 to 12, "--" for 0.
+[[nodiscard]] Cell houseCell(int house, int varga = 0);
+
 /// A cell that leads to a nakshatra, "Rohini 2" with its quarter, sorted by the position 0 to under
 /// 27.
 [[nodiscard]] Cell quarterCell(double position);
@@ -115,5 +118,8 @@ struct Table
 /// A cell with a number of fixed decimals, "--" for what is not there.
 [[nodiscard]] Cell numberCell(const std::optional<double>& value, int decimals);
 [[nodiscard]] Cell integerCell(int value);
+
+/// A cell with a number from 1 on, "--" for 0.
+[[nodiscard]] Cell countCell(int count);
 
 } // namespace kestrav::present

@@ -2,8 +2,10 @@
 
 #include "analysis/Dignities.h"
 #include "analysis/VargaNames.h"
+#include "analysis/Vargas.h"
 #include "analysis/Vimshopaka.h"
 #include "app/present/TextValues.h"
+#include "core/Angles.h"
 #include "core/PointNames.h"
 #include "core/TextForms.h"
 
@@ -68,6 +70,12 @@ std::vector<int> mainPoints(const ComputedChart& computed)
     };
     points.erase(std::remove_if(points.begin(), points.end(), other), points.end());
     return points;
+}
+
+int countedFrom(const core::Chart& chart, int reference, int sign, int varga)
+{
+    const int first = analysis::signInVarga(chart, varga, reference);
+    return first == 0 || sign == 0 ? 0 : core::norm12(sign - first + 1);
 }
 
 Table vargaListTable()

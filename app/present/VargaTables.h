@@ -32,6 +32,11 @@ inline constexpr int kPlacedPoints = core::kPartOfFortune;
 /// Of these the ascendant, the nine planets and the outer three.
 [[nodiscard]] std::vector<int> mainPoints(const ComputedChart& computed);
 
+/// The place 1 to 12 of a sign counted from that of a point, such as the house from the ascendant;
+/// 0 when the point has none in the divisional chart, or for sign 0.
+[[nodiscard]] int countedFrom(const core::Chart& chart, int reference, int sign,
+                              int varga = core::kRashi);
+
 /// Index, division, name and meaning of all divisional charts.
 [[nodiscard]] Table vargaListTable();
 

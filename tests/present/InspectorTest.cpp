@@ -72,7 +72,10 @@ TEST(Inspector, TellsOfEveryPointWhatItHas)
     const Inspection muntha = inspect(source, {Subject::Point, core::kMuntha});
     ASSERT_EQ(muntha.sections.front().notes.size(), 1U);
     EXPECT_NE(muntha.sections.front().notes[0].find(L"annual"), std::wstring::npos);
-    EXPECT_TRUE(inspect(source, {}).sections.empty());
+    for (const Link& nothing :
+         {Link{}, Link{Subject::Point, 63}, Link{Subject::Sign, 0}, Link{Subject::House, 13}}) {
+        EXPECT_TRUE(inspect(source, nothing).sections.empty());
+    }
 }
 
 TEST(Inspector, RelationshipsAndStateOfMars)

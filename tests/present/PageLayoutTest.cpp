@@ -59,7 +59,7 @@ std::string faultOf(const Change& change)
 TEST(PageLayouts, TheDeliveredOnesAreReadAndWrittenBack)
 {
     const std::vector<std::string> files = filesOf("pages");
-    EXPECT_EQ(files.size(), 12U);
+    EXPECT_GE(files.size(), 12U);
     bool paper = false;
     for (const std::string& file : files) {
         const core::Result<PageLayout> layout = readPageLayout(file);
