@@ -1,0 +1,176 @@
+#include "app/desktop/timing/TrialTimesPanel.h"
+
+#include "app/desktop/panels/TableExport.h"
+#include "app/desktop/panels/TableView.h"
+#include "app/desktop/shell/Convert.h"
+#include "app/desktop/timing/WorkBar.h"
+#include "timing/DashaTable.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QSpinBox>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
+
+namespace kestrav::desktop
+{
+
+namespace
+{
+
+constexpr int kLargestStep = 600;
+constexpr int kMostSteps = 100;
+constexpr double kSecondsOfMinute = 60.0;
+
+} // namespace
+
+TrialTimesPanel::TrialTimesPanel(Workspace& workspace, present::Panel panel, QWidget* parent)
+    : PanelWidget(workspace, std::move(panel), parent), step_(new QSpinBox(this)),
+      unit_(new QComboBox(this)), count_(new QSpinBox(this)), levels_(new QSpinBox(this)),
+      note_(new QLabel(this)), tabs_(new QTabWidget(this)), ascendants_(new TableView(this)),
+      lords_(new TableView(this))
+{
+    setObjectName(QStringLiteral("TrialTimesPanel"));
+    note_->setObjectName(QStringLiteral("NoteLabel"));
+    note_->setMargin(fontMetrics().height() / 3);
+    note_->setWordWrap(true);
+    tabs_->setObjectName(QStringLiteral("TrialTabs"));
+    tabs_->setDocumentMode(true);
+    ascendants_->setObjectName(QStringLiteral("AscendantsTable"));
+    ascendants_->setAccessibleName(tr("Ascendants of other birth times"));
+    lords_->setObjectName(QStringLiteral("LordsTable"));
+    lords_->setAccessibleName(tr("Dasha lords of other birth times"));
+    tabs_->addTab(ascendants_, tr("Ascendants"));
+    tabs_->addTab(lords_, tr("Dasha lords of the events"));
+    for (TableView* const view : {ascendants_, lords_}) {
+        connect(view, &TableView::linkChosen, this, &TrialTimesPanel::choose);
+    }
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->setSpacing(0);
+    layout->addLayout(makeBar());
+    layout->addWidget(tabs_, 1);
+    layout->addWidget(note_);
+    setFocusProxy(ascendants_);
+    auto* const copy = new QAction(tr("&Copy Table"), this);
+    connect(copy, &QAction::triggered, this,
+            [this] { static_cast<TableView*>(tabs_->currentWidget())->copy(); });
+    auto* const save = new QAction(tr("&Save Table..."), this);
+    connect(save, &QAction::triggered, this, &TrialTimesPanel::saveTable);
+    actions_ = {copy, save};
+}
+
+QLayout* TrialTimesPanel::makeBar()
+{
+    const auto spin = [this](QSpinBox& box, const char* name, int lowest, int highest, int value) {
+        box.setObjectName(QLatin1String(name));
+        box.setRange(lowest, highest);
+        box.setValue(value);
+        // Typed digits are not computed one by one.
+        box.setKeyboardTracking(false);
+        connect(&box, &QSpinBox::valueChanged, this, [this] { markDue(); });
+    };
+    spin(*step_, "TrialStepUpDown", 1, kLargestStep, 1);
+    spin(*count_, "TrialCountUpDown", 1, kMostSteps, 10);
+    spin(*levels_, "TrialLevelsUpDown", 1, timing::kDashaLevels, 3);
+    unit_->setObjectName(QStringLiteral("TrialUnitComboBox"));
+    unit_->setAccessibleName(tr("Unit of a step"));
+    unit_->addItems({tr("seconds"), tr("minutes")});
+    unit_->setCurrentIndex(1);
+    connect(unit_, &QComboBox::activated, this, [this] { markDue(); });
+    auto* const bar = new QHBoxLayout;
+    const int gap = fontMetrics().height() / 3;
+    bar->setContentsMargins(gap, gap, gap, gap);
+    bar->setSpacing(gap);
+    const auto labelled = [this, bar, gap](const QString& text, QWidget* field) {
+        auto* const label = new QLabel(text, this);
+        label->setBuddy(field);
+        field->setAccessibleName(QString(text).remove(QLatin1Char('&')).remove(QLatin1Char(':')));
+        bar->addWidget(label);
+        bar->addWidget(field);
+        bar->addSpacing(gap);
+    };
+    labelled(tr("Steps to both sides:"), count_);
+    labelled(tr("of"), step_);
+    bar->addWidget(unit_);
+    bar->addSpacing(gap);
+    labelled(tr("Dasha levels:"), levels_);
+    bar->addStretch(1);
+    auto* const working = new WorkBar(work_, this);
+    connect(working, &WorkBar::stopped, this,
+            [this] { note_->setText(tr("Stopped before all times were tried.")); });
+    bar->addWidget(working);
+    step_->setAccessibleName(tr("Length of a step"));
+    return bar;
+}
+
+QString TrialTimesPanel::title() const
+{
+    return tr("Other birth times");
+}
+
+QList<QAction*> TrialTimesPanel::panelActions()
+{
+    return actions_;
+}
+
+void TrialTimesPanel::refresh()
+{
+    const ChartPointer shown = chart();
+    tabs_->setVisible(shown != nullptr);
+    if (!shown) {
+        work_.cancel();
+        note_->setText(tr("No chart is open."));
+        return;
+    }
+    present::TrialTimes times;
+    times.steps = count_->value();
+    times.seconds = step_->value() * (unit_->currentIndex() == 1 ? kSecondsOfMinute : 1.0);
+    times.levels = levels_->value();
+    work_.start(
+        [shown, times, data = workspace().data()](const WorkHandle& /*handle*/) {
+            return present::trialTables(*shown, data->series, times);
+        },
+        [this](const present::TrialTables& tables) { showTables(tables); });
+}
+
+void TrialTimesPanel::showTables(const present::TrialTables& tables)
+{
+    ascendants_->setTable(tables.ascendants);
+    lords_->setTable(tables.lords);
+    const bool hasEvents = tables.lords.columns.size() > 2;
+    tabs_->setTabVisible(1, hasEvents);
+    QStringList notes;
+    for (const std::wstring& note : tables.ascendants.notes) {
+        notes += toQt(note);
+    }
+    note_->setText(notes.join(QLatin1Char(' ')));
+    // The given time stands in the middle.
+    for (TableView* const view : {ascendants_, lords_}) {
+        const QModelIndex middle = view->model()->index(view->model()->rowCount() / 2, 0);
+        view->setCurrentIndex(middle);
+        view->scrollTo(middle, QAbstractItemView::PositionAtCenter);
+    }
+}
+
+std::vector<present::Block> TrialTimesPanel::blocks()
+{
+    refreshNow();
+    std::vector<present::Block> blocks = {ascendants_->table()};
+    if (lords_->table().columns.size() > 2) {
+        blocks.emplace_back(lords_->table());
+    }
+    return blocks;
+}
+
+void TrialTimesPanel::saveTable()
+{
+    saveTableAs(static_cast<TableView*>(tabs_->currentWidget())->table(), workspace(), this);
+}
+
+} // namespace kestrav::desktop
