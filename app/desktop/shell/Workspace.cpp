@@ -94,6 +94,8 @@ ChartPointer Workspace::compute(const core::Chart& record, bool withChanges)
             analysis::storePoint(chart, point, longitude);
             if (point == core::kAscendant) {
                 moveHouses(chart, settings());
+            } else if (point == core::cuspPoint(10)) {
+                chart.midheaven = longitude;
             }
         }
         analysis::analyseSigns(chart, settings());

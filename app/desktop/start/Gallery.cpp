@@ -1,5 +1,12 @@
 #include "app/desktop/start/Gallery.h"
 
+#include "app/desktop/options/Ks6customayan.h"
+#include "app/desktop/options/Ks6vargaoptions.h"
+#include "app/desktop/options/TChangePointDlg.h"
+#include "app/desktop/options/TColoursDlg.h"
+#include "app/desktop/options/TOptionWizardForm.h"
+#include "app/desktop/options/TOptionsDlg.h"
+#include "app/desktop/options/TSelectDashaDlg.h"
 #include "app/desktop/pages/PageStrip.h"
 #include "app/desktop/pages/TPageLayoutDlg.h"
 #include "app/desktop/shell/Ks6main.h"
@@ -18,6 +25,23 @@ std::span<const GalleryRow> gallery()
          [](TKSVform1& window) -> QWidget* {
              return new TPageLayoutDlg(window.pages().layout(0), &window);
          }},
+        {"OptionsDlg",
+         [](TKSVform1& window) -> QWidget* { return new TOptionsDlg(window, &window); }},
+        {"SelectDashaDlg",
+         [](TKSVform1& window) -> QWidget* { return new TSelectDashaDlg(window, &window); }},
+        {"VargaOptionsDlg",
+         [](TKSVform1& window) -> QWidget* { return new TVargaOptionsDlg(window, &window); }},
+        {"CustomAyanamsaDlg",
+         [](TKSVform1& window) -> QWidget* {
+             return new TCustomAyanamsaDlg(window.workspace(), window.workspace().settings(),
+                                           &window);
+         }},
+        {"ColoursDlg",
+         [](TKSVform1& window) -> QWidget* { return new TColoursDlg(window, &window); }},
+        {"ChangePointDlg",
+         [](TKSVform1& window) -> QWidget* { return new TChangePointDlg(window, &window); }},
+        {"OptionWizardForm",
+         [](TKSVform1& window) -> QWidget* { return new TOptionWizardForm(window, &window); }},
     };
     return kRows;
 }

@@ -1,6 +1,7 @@
 #include "app/desktop/start/Startup.h"
 
 #include "app/desktop/database/OpenDatabase.h"
+#include "app/desktop/options/OptionsActions.h"
 #include "app/desktop/pages/PageStrip.h"
 #include "app/desktop/shell/BackgroundWork.h"
 #include "app/desktop/shell/Convert.h"
@@ -159,6 +160,9 @@ int runWindow(int& count, char** words, const ProgramOptions& options)
             code = picture(window, options);
         } else {
             window.show();
+            if (!options.batch) {
+                window.findChild<OptionsActions*>()->runWizardAtFirstStart();
+            }
             code = QApplication::exec();
         }
     }
