@@ -26,22 +26,34 @@ std::span<const GalleryRow> gallery()
              return new TPageLayoutDlg(window.pages().layout(0), &window);
          }},
         {"OptionsDlg",
-         [](TKSVform1& window) -> QWidget* { return new TOptionsDlg(window, &window); }},
+         [](TKSVform1& window) -> QWidget* {
+             return new TOptionsDlg(window, &window);
+         }},
         {"SelectDashaDlg",
-         [](TKSVform1& window) -> QWidget* { return new TSelectDashaDlg(window, &window); }},
+         [](TKSVform1& window) -> QWidget* {
+             return new TSelectDashaDlg(window, &window);
+         }},
         {"VargaOptionsDlg",
-         [](TKSVform1& window) -> QWidget* { return new TVargaOptionsDlg(window, &window); }},
+         [](TKSVform1& window) -> QWidget* {
+             return new TVargaOptionsDlg(window, &window);
+         }},
         {"CustomAyanamsaDlg",
          [](TKSVform1& window) -> QWidget* {
              return new TCustomAyanamsaDlg(window.workspace(), window.workspace().settings(),
                                            &window);
          }},
         {"ColoursDlg",
-         [](TKSVform1& window) -> QWidget* { return new TColoursDlg(window, &window); }},
+         [](TKSVform1& window) -> QWidget* {
+             return new TColoursDlg(window, &window);
+         }},
         {"ChangePointDlg",
-         [](TKSVform1& window) -> QWidget* { return new TChangePointDlg(window, &window); }},
+         [](TKSVform1& window) -> QWidget* {
+             return new TChangePointDlg(window, &window);
+         }},
         {"OptionWizardForm",
-         [](TKSVform1& window) -> QWidget* { return new TOptionWizardForm(window, &window); }},
+         [](TKSVform1& window) -> QWidget* {
+             return new TOptionWizardForm(window, &window);
+         }},
     };
     return kRows;
 }
