@@ -5,7 +5,6 @@
 #include "data/Atlas.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace kestrav::cli
@@ -93,31 +92,6 @@ core::Result<std::uint32_t> choosePlace(const data::Places& places, std::wstring
         return matches.places.front();
     }
     return severalPlaces(places, text, matches.places);
-}
-
-data::PlaceAnswer answerAtMoment(const data::Places& places, const data::Place& place,
-                                 double unixSeconds)
-{
-    const data::LocalTime local =
-        places.zones().at(place.zone, data::UnixSeconds(std::floor(unixSeconds)));
-    data::PlaceAnswer answer = data::answerAt(places, place, {});
-    answer.time = {};
-    answer.time.zone = local.zoneHours();
-    answer.time.daylightSaving = local.savingHours();
-    answer.time.localMean = local.localMean;
-    return answer;
-}
-
-std::wstring countryOrState(const data::Places& places, const data::Place& place)
-{
-    const data::Region& region = places.list().regionOf(place);
-    return region.country == "US" && !region.name.empty() ? core::fromFileBytes(region.name)
-                                                          : places.countryOf(place);
-}
-
-std::wstring fullName(const data::Places& places, const data::Place& place)
-{
-    return places.nameOf(place) + L", " + places.regionAndCountryOf(place);
 }
 
 void warnOfPlaceTime(const data::PlaceTime& time, Console& console)

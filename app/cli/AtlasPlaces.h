@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/cli/Command.h"
+#include "app/present/PlaceNames.h"
 #include "core/Result.h"
 #include "core/Settings.h"
 #include "data/PlaceLookup.h"
@@ -25,16 +26,9 @@ namespace kestrav::cli
 [[nodiscard]] core::Result<std::uint32_t> choosePlace(const data::Places& places,
                                                       std::wstring_view text);
 
-/// What is known about the place when the clocks of the world stand at a moment in seconds since
-/// 1970.
-[[nodiscard]] data::PlaceAnswer answerAtMoment(const data::Places& places, const data::Place& place,
-                                               double unixSeconds);
-
-/// The state of a place in the United States, else its country.
-[[nodiscard]] std::wstring countryOrState(const data::Places& places, const data::Place& place);
-
-/// "Portland, Oregon, United States of America".
-[[nodiscard]] std::wstring fullName(const data::Places& places, const data::Place& place);
+using present::answerAtMoment;
+using present::countryOrState;
+using present::fullName;
 
 /// Shows the atlas warning when the values have one, and why they have it.
 void warnOfPlaceTime(const data::PlaceTime& time, Console& console);

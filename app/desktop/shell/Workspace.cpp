@@ -4,11 +4,14 @@
 #include "analysis/SignPositions.h"
 #include "analysis/StorePoint.h"
 #include "app/desktop/database/OpenDatabase.h"
+#include "app/desktop/entry/PlaceSource.h"
 #include "app/desktop/shell/Convert.h"
 #include "app/present/BirthRecord.h"
 #include "app/present/Clock.h"
 #include "astro/Houses.h"
 #include "core/DisplayFlags.h"
+#include "data/BirthTexts.h"
+#include "data/PlaceTime.h"
 
 #include <chrono>
 #include <cmath>
@@ -32,6 +35,25 @@ void moveHouses(core::Chart& chart, const core::Settings& settings)
     astro::HouseCusps(chart, system);
     for (int house = 1; house <= 12; ++house) {
         analysis::computeSignData(chart, core::cuspPoint(house));
+    }
+}
+
+// Zone and saving time at the Now location: by the name of its zone, else the hours that are kept.
+void setNowZone(core::Chart& record, const core::Settings& now, double unixSeconds)
+{
+    record.zone = now.nowZone;
+    const data::ZoneTable* const zones = now.nowZoneName.empty() ? nullptr : programZones();
+    const std::optional<int> zone = zones ? zones->find(now.nowZoneName) : std::nullopt;
+    if (!zone) {
+        return;
+    }
+    const data::LocalTime local = zones->at(*zone, data::UnixSeconds(std::floor(unixSeconds)));
+    record.zone = local.zoneHours();
+    record.daylightSaving = local.savingHours();
+    if (local.localMean) {
+        // The table has the mean time of the zone's own town; the place has its own.
+        present::setLocalMoment(record, unixSeconds);
+        record.zone = data::timeAtPlace(*zones, *zone, record.geoLongitude, {}, record.time).zone;
     }
 }
 
@@ -193,14 +215,17 @@ core::Chart Workspace::recordAt(double moment) const
 {
     core::Chart record;
     record.name = tr("Now").toStdWString();
+    // A Julian day holds a moment to some 20 microseconds, which must not become a minute less.
+    const double seconds = std::round(unixOfJulianDay(moment) * 1000.0) / 1000.0;
     const core::Settings& now = settings();
+    const bool withPlace = !now.nowCity.empty() || (chart_ && chart_->hasPlace);
     if (!now.nowCity.empty()) {
         record.place = core::fromFileBytes(now.nowCity);
         record.identity.country = core::fromFileBytes(now.nowCountry);
         record.geoLongitude = now.nowLongitude;
         record.geoLatitude = now.nowLatitude;
-        record.zone = now.nowZone;
-    } else if (chart_ && chart_->hasPlace) {
+        setNowZone(record, now, seconds);
+    } else if (withPlace) {
         record.place = record_.place;
         record.identity.country = record_.identity.country;
         record.geoLongitude = record_.geoLongitude;
@@ -208,15 +233,18 @@ core::Chart Workspace::recordAt(double moment) const
         record.zone = record_.zone;
         record.daylightSaving = record_.daylightSaving;
     } else {
-        const present::SystemZone zone = present::systemZoneAt(unixOfJulianDay(moment));
+        const present::SystemZone zone = present::systemZoneAt(seconds);
         record.zone = zone.zone;
         record.daylightSaving = zone.daylightSaving;
     }
-    present::setLocalMoment(record, unixOfJulianDay(moment));
-    if (!now.nowCity.empty() || (chart_ && chart_->hasPlace)) {
-        // The texts say that there is a place; the form writes them in its own way.
-        record.identity.longitudeText = L"0";
-        record.identity.latitudeText = L"0";
+    present::setLocalMoment(record, seconds);
+    data::BirthTexts texts = data::birthTexts(record);
+    record.timeText = std::move(texts.time);
+    record.zoneText = std::move(texts.zone);
+    // Without these two texts a record has no place.
+    if (withPlace) {
+        record.identity.longitudeText = std::move(texts.longitude);
+        record.identity.latitudeText = std::move(texts.latitude);
     }
     return record;
 }

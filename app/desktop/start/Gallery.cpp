@@ -1,5 +1,13 @@
 #include "app/desktop/start/Gallery.h"
 
+#include "app/desktop/entry/PlaceSource.h"
+#include "app/desktop/entry/TAtlasCitiesDlg.h"
+#include "app/desktop/entry/TChooseChartDlg.h"
+#include "app/desktop/entry/TDataEntryForm.h"
+#include "app/desktop/entry/TEventsDlg.h"
+#include "app/desktop/entry/TNowLocationDlg.h"
+#include "app/desktop/entry/TPcAtlasVersionDlg.h"
+#include "app/desktop/entry/TWorldMapForm.h"
 #include "app/desktop/options/Ks6customayan.h"
 #include "app/desktop/options/Ks6vargaoptions.h"
 #include "app/desktop/options/TChangePointDlg.h"
@@ -13,6 +21,7 @@
 
 #include <QWidget>
 
+#include <optional>
 #include <vector>
 
 namespace kestrav::desktop
@@ -53,6 +62,41 @@ std::span<const GalleryRow> gallery()
         {"OptionWizardForm",
          [](TKSVform1& window) -> QWidget* {
              return new TOptionWizardForm(window, &window);
+         }},
+        {"DataEntryForm",
+         [](TKSVform1& window) -> QWidget* {
+             auto* const form = new TDataEntryForm(window.workspace(), &window);
+             form->edit(window.workspace().record());
+             return form;
+         }},
+        {"EventsDlg",
+         [](TKSVform1& window) -> QWidget* {
+             return new TEventsDlg(window.workspace(), &window);
+         }},
+        {"WorldMapForm",
+         [](TKSVform1& window) -> QWidget* {
+             const PlacesPointer places = PlaceSource::of(window.workspace()).places();
+             return places ? new TWorldMapForm(places, std::nullopt, &window) : nullptr;
+         }},
+        {"AtlasCitiesDlg",
+         [](TKSVform1& window) -> QWidget* {
+             const PlacesPointer places = PlaceSource::of(window.workspace()).places();
+             return places ? new TAtlasCitiesDlg(
+                                 places, places->places.find(L"Portland", {}).places, &window)
+                           : nullptr;
+         }},
+        {"NowLocationDlg",
+         [](TKSVform1& window) -> QWidget* {
+             return new TNowLocationDlg(window.workspace(), &window);
+         }},
+        {"PcAtlasVersionDlg",
+         [](TKSVform1& window) -> QWidget* {
+             return new TPcAtlasVersionDlg(window.workspace(), &window);
+         }},
+        {"ChooseChartDlg",
+         [](TKSVform1& window) -> QWidget* {
+             return new TChooseChartDlg(window.workspace().database(), QObject::tr("Compare With"),
+                                        &window);
          }},
     };
     return kRows;

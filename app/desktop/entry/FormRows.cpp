@@ -1,0 +1,80 @@
+#include "app/desktop/entry/FormRows.h"
+
+#include "app/desktop/shell/Theme.h"
+
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPalette>
+
+#include <algorithm>
+
+namespace kestrav::desktop
+{
+
+namespace
+{
+
+constexpr int kLongestShort = 14;
+constexpr int kLongestWide = 34;
+
+} // namespace
+
+QLineEdit* makeEdit(QWidget* parent, const char* name, int most)
+{
+    auto* const edit = new QLineEdit(parent);
+    edit->setObjectName(QLatin1String(name));
+    edit->setMaxLength(most);
+    const int digit = edit->fontMetrics().horizontalAdvance(QLatin1Char('0'));
+    const int frame = 3 * digit;
+    if (most <= kLongestShort) {
+        edit->setFixedWidth(std::max(most, 2) * digit + frame);
+    } else {
+        edit->setMinimumWidth(std::min(most, kLongestWide) * digit + frame);
+    }
+    return edit;
+}
+
+QLabel* makeNote(QWidget* parent, const char* name)
+{
+    auto* const note = new QLabel(parent);
+    note->setObjectName(QLatin1String(name));
+    note->setWordWrap(true);
+    note->setTextFormat(Qt::PlainText);
+    return note;
+}
+
+void showNote(QLabel& note, QWidget& field, const QString& problem)
+{
+    QPalette palette = note.palette();
+    palette.setColor(QPalette::WindowText, themeColour(ThemeRole::Bad));
+    note.setPalette(palette);
+    note.setText(problem);
+    field.setAccessibleDescription(problem);
+}
+
+void addRow(QFormLayout& form, const QString& label, std::initializer_list<QWidget*> fields)
+{
+    QWidget* const field = *fields.begin();
+    auto* const text = new QLabel(label, field->parentWidget());
+    text->setBuddy(field);
+    if (field->accessibleName().isEmpty()) {
+        field->setAccessibleName(QString(label).remove(QLatin1Char('&')).remove(QLatin1Char(':')));
+    }
+    auto* const row = new QHBoxLayout;
+    bool grows = false;
+    for (QWidget* const each : fields) {
+        const bool note = qobject_cast<QLabel*>(each) != nullptr;
+        const bool wide = each->minimumWidth() != each->maximumWidth() &&
+                          qobject_cast<QLineEdit*>(each) != nullptr;
+        row->addWidget(each, note || wide ? 1 : 0);
+        grows = grows || note || wide;
+    }
+    if (!grows) {
+        row->addStretch(1);
+    }
+    form.addRow(text, row);
+}
+
+} // namespace kestrav::desktop
