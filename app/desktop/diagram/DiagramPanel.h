@@ -3,6 +3,10 @@
 
 #include "app/desktop/panels/PanelWidget.h"
 
+#include <optional>
+
+class QMenu;
+
 namespace kestrav::desktop
 {
 
@@ -16,6 +20,11 @@ public:
     DiagramPanel(Workspace& workspace, present::Panel panel, QWidget* parent);
 
     [[nodiscard]] QString title() const override;
+    [[nodiscard]] QString helpName() const override
+    {
+        return QStringLiteral("diagram");
+    }
+    [[nodiscard]] QList<QAction*> panelActions() override;
     [[nodiscard]] std::vector<present::Block> blocks() override;
     [[nodiscard]] bool hasVarga() const override
     {
@@ -30,7 +39,20 @@ protected:
     void refresh() override;
 
 private:
+    void makeActions();
+    void setDegrees(present::DegreeForm form);
+    [[nodiscard]] present::DegreeForm degrees() const;
+    [[nodiscard]] ChartPointer outerChart() const;
+
     DiagramView* view_;
+    QAction* inspect_ = nullptr;
+    QAction* aspects_ = nullptr;
+    QAction* turn_ = nullptr;
+    QAction* clear_ = nullptr;
+    QAction* copy_ = nullptr;
+    QAction* save_ = nullptr;
+    QMenu* degreesMenu_ = nullptr;
+    std::optional<present::DegreeForm> degrees_; ///< of this panel; none for that of the settings
 };
 
 } // namespace kestrav::desktop

@@ -131,12 +131,16 @@ present::ColourScheme schemeOf(const QWidget& widget)
                : present::ColourScheme::Light;
 }
 
-void paintDisplayList(QPainter& painter, const present::DisplayList& list, const QFont& font)
+void paintDisplayList(QPainter& painter, const present::DisplayList& list, const QFont& font,
+                      const std::function<void(QPainter&)>& above)
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     for (const present::Shape& shape : list.shapes) {
         paintShape(painter, shape, list);
+    }
+    if (above) {
+        above(painter);
     }
     for (const present::Line& line : list.lines) {
         paintLine(painter, line, list);

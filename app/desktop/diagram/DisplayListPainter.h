@@ -7,6 +7,8 @@
 #include <QColor>
 #include <QFont>
 
+#include <functional>
+
 class QPainter;
 class QWidget;
 
@@ -14,8 +16,9 @@ namespace kestrav::desktop
 {
 
 /// Paints the list with its corner at the painter's origin, one unit of the list to one of the
-/// painter. Texts stay texts.
-void paintDisplayList(QPainter& painter, const present::DisplayList& list, const QFont& font);
+/// painter. Texts stay texts. `above` paints on the areas and below lines and texts.
+void paintDisplayList(QPainter& painter, const present::DisplayList& list, const QFont& font,
+                      const std::function<void(QPainter&)>& above = {});
 
 [[nodiscard]] QColor toQt(present::Colour colour);
 

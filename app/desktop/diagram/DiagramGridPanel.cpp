@@ -1,0 +1,282 @@
+#include "app/desktop/diagram/DiagramGridPanel.h"
+
+#include "analysis/Ashtakavarga.h"
+#include "analysis/VargaNames.h"
+#include "app/desktop/diagram/DiagramContents.h"
+#include "app/desktop/diagram/DiagramExport.h"
+#include "app/desktop/diagram/DiagramTile.h"
+#include "app/desktop/diagram/DiagramView.h"
+#include "app/desktop/shell/Convert.h"
+#include "app/present/TextValues.h"
+#include "app/present/VargaTables.h"
+
+#include <QAction>
+
+#include <algorithm>
+#include <numeric>
+#include <utility>
+
+namespace kestrav::desktop
+{
+
+namespace
+{
+
+constexpr double kPrintedSize = 170.0;
+constexpr std::size_t kPrintedInRow = 3;
+// The large diagram takes at least and at most these shares of the longer side.
+constexpr double kLeastShare = 0.25;
+constexpr double kMostShare = 0.55;
+constexpr double kShareStep = 0.025;
+// How much an area of the large diagram counts against one of the small ones.
+constexpr double kWorthOfLarge = 2.0;
+
+struct Arrangement
+{
+    bool beside = true; ///< the large one left of the small ones; else above
+    int columns = 1;
+    double large = 0.0; ///< its side
+    double small = 0.0;
+    double worth = -1.0;
+};
+
+// `words` is the height of a title.
+Arrangement bestArrangement(QSizeF room, int count, double words, double gap)
+{
+    Arrangement best;
+    for (const bool beside : {true, false}) {
+        const double longer = beside ? room.width() : room.height();
+        for (double share = kLeastShare; share <= kMostShare; share += kShareStep) {
+            const double large =
+                std::min({share * longer, room.width(), room.height() - words * 3.0});
+            const QSizeF rest = beside ? QSizeF(room.width() - large - gap, room.height())
+                                       : QSizeF(room.width(), room.height() - large - 3.0 * words);
+            for (int columns = 1; columns <= count; ++columns) {
+                const int rows = (count + columns - 1) / columns;
+                const double small = std::min((rest.width() - (columns - 1) * gap) / columns,
+                                              (rest.height() - (rows - 1) * gap) / rows - words);
+                const double worth = kWorthOfLarge * large * large + count * small * small;
+                if (small > 0.0 && large > small && worth > best.worth) {
+                    best = {beside, columns, large, small, worth};
+                }
+            }
+        }
+    }
+    return best;
+}
+
+QRect rounded(double x, double y, double width, double height)
+{
+    return QRectF(x, y, width, height).toRect();
+}
+
+} // namespace
+
+DiagramGridPanel::DiagramGridPanel(Workspace& workspace, present::Panel panel, int small,
+                                   QWidget* parent)
+    : PanelWidget(workspace, std::move(panel), parent), large_(new DiagramTile(this)),
+      copy_(new QAction(tr("&Copy Large Diagram"), this)),
+      save_(new QAction(tr("&Save Large Diagram..."), this))
+{
+    large_->view()->setObjectName(QStringLiteral("LargeDiagramView"));
+    connectView(large_->view());
+    for (int i = 0; i < small; ++i) {
+        auto* const tile = new DiagramTile(this);
+        tile->view()->setObjectName(QStringLiteral("DiagramView%1").arg(i));
+        connectView(tile->view());
+        connect(tile->view(), &DiagramView::clicked, this, [this, i] { tileClicked(i); });
+        tiles_.push_back(tile);
+    }
+    setFocusProxy(large_->view());
+    dependOn(OnChart);
+    connect(copy_, &QAction::triggered, large_->view(), &DiagramView::copy);
+    connect(save_, &QAction::triggered, this,
+            [this] { saveDiagramAs(*large_->view(), this->workspace(), this); });
+}
+
+void DiagramGridPanel::connectView(DiagramView* view)
+{
+    connect(&workspace(), &Workspace::selectionChanged, view,
+            [this, view] { view->setSelection(workspace().selection()); });
+    view->setSelection(workspace().selection());
+    connect(view, &DiagramView::linkChosen, this, &DiagramGridPanel::choose);
+    connect(view, &DiagramView::vargaWanted, this, &DiagramGridPanel::setVarga);
+    connect(view, &DiagramView::styleWanted, this,
+            [this](present::DiagramStyle style) { setStyle(style); });
+    connect(view, &DiagramView::told, &workspace(), &Workspace::tell);
+}
+
+QList<QAction*> DiagramGridPanel::panelActions()
+{
+    return {copy_, save_};
+}
+
+std::vector<present::Block> DiagramGridPanel::blocks()
+{
+    refreshNow();
+    std::vector<present::Block> blocks;
+    present::DrawingRow row;
+    for (std::size_t i = 0; i < tiles_.size(); ++i) {
+        const DiagramView& view = *tiles_[i]->view();
+        if (view.contents().chart) {
+            row.drawings.push_back({view.layOut(kPrintedSize, present::ColourScheme::Print),
+                                    view.drawnWithCharacters()});
+        }
+        if (!row.drawings.empty() &&
+            (row.drawings.size() == kPrintedInRow || i + 1 == tiles_.size())) {
+            blocks.emplace_back(std::exchange(row, {}));
+        }
+    }
+    return blocks;
+}
+
+QSize DiagramGridPanel::sizeHint() const
+{
+    const int unit = fontMetrics().height();
+    return {unit * 40, unit * 30};
+}
+
+void DiagramGridPanel::resizeEvent(QResizeEvent* event)
+{
+    PanelWidget::resizeEvent(event);
+    arrange();
+}
+
+void DiagramGridPanel::arrange()
+{
+    const double gap = fontMetrics().height() / 2.0;
+    const double words = tiles_.front()->heightOfWords();
+    const QRectF room = QRectF(rect()).adjusted(gap, gap / 2.0, -gap, -gap / 2.0);
+    const Arrangement best = bestArrangement(room.size(), int(tiles_.size()), words, gap);
+    if (best.worth < 0.0) {
+        return;
+    }
+    const int rows = (int(tiles_.size()) + best.columns - 1) / best.columns;
+    const double gridWidth = best.columns * (best.small + gap) - gap;
+    const double gridHeight = rows * (best.small + words + gap) - gap;
+    const double largeHeight = best.large + large_->heightOfWords();
+    double left = room.left();
+    double top = room.top();
+    if (best.beside) {
+        const double spare = (room.width() - best.large - gap - gridWidth) / 2.0;
+        left += std::max(0.0, spare);
+        large_->setGeometry(rounded(left, top + std::max(0.0, (room.height() - largeHeight) / 2.0),
+                                    best.large, largeHeight));
+        left += best.large + gap;
+        top += std::max(0.0, (room.height() - gridHeight) / 2.0);
+    } else {
+        large_->setGeometry(
+            rounded(left + (room.width() - best.large) / 2.0, top, best.large, largeHeight));
+        top += largeHeight;
+        left += std::max(0.0, (room.width() - gridWidth) / 2.0);
+    }
+    for (std::size_t i = 0; i < tiles_.size(); ++i) {
+        const int row = int(i) / best.columns;
+        const int column = int(i) % best.columns;
+        tiles_[i]->setGeometry(rounded(left + column * (best.small + gap),
+                                       top + row * (best.small + words + gap), best.small,
+                                       best.small + words));
+    }
+}
+
+VargaGridPanel::VargaGridPanel(Workspace& workspace, present::Panel panel, QWidget* parent)
+    : DiagramGridPanel(workspace, std::move(panel), core::kVargaCount, parent)
+{
+    setObjectName(QStringLiteral("VargaGridPanel"));
+}
+
+QString VargaGridPanel::title() const
+{
+    return tr("Divisional charts");
+}
+
+void VargaGridPanel::tileClicked(int index)
+{
+    setVarga(index);
+}
+
+void VargaGridPanel::refresh()
+{
+    const ChartPointer shown = chart();
+    DiagramContents contents = diagramContents(workspace(), panel_, shown);
+    contents.options.boundaries = true;
+    large_->view()->setContents(contents);
+    QStringList near;
+    for (int point = 0; shown && point < present::kPlacedPoints; ++point) {
+        if (contents.options.points[std::size_t(point)] &&
+            core::at(core::at(shown->chart.nearBoundary, panel_.varga), point)) {
+            near += toQt(present::pointLabel(point));
+        }
+    }
+    large_->setWords(toQt(present::vargaHeading(panel_.varga)), {},
+                     near.isEmpty()
+                         ? QString()
+                         : tr("~ near a boundary: %1").arg(near.join(QLatin1String(", "))));
+    contents.small = true;
+    contents.options.degrees = present::DegreeForm::None;
+    contents.options.nameStyle = 2;
+    contents.options.navamshaRing = false;
+    for (int varga = 0; varga < core::kVargaCount; ++varga) {
+        DiagramTile& tile = *tiles_[std::size_t(varga)];
+        contents.varga = varga;
+        const QString name = vargaTitle(varga);
+        const QString division = QStringLiteral("D-%1").arg(analysis::vargaDivision(varga));
+        tile.setWords(division + QLatin1Char(' ') + name, toQt(present::vargaHeading(varga)));
+        tile.setChosen(varga == panel_.varga);
+        tile.view()->setContents(contents);
+    }
+    arrange();
+}
+
+BinduGridPanel::BinduGridPanel(Workspace& workspace, present::Panel panel, QWidget* parent)
+    : DiagramGridPanel(workspace, std::move(panel), analysis::kAshtakavargaPoints, parent)
+{
+    setObjectName(QStringLiteral("BinduGridPanel"));
+}
+
+QString BinduGridPanel::title() const
+{
+    return tr("Bindus in %1").arg(vargaTitle(panel_.varga));
+}
+
+void BinduGridPanel::tileClicked(int index)
+{
+    receiver_ = receiver_ == index ? present::BinduChoice::kSarva : index;
+    markDue();
+}
+
+void BinduGridPanel::refresh()
+{
+    const ChartPointer shown = chart();
+    DiagramContents contents = diagramContents(workspace(), panel_, shown);
+    contents.options.navamshaRing = false;
+    contents.options.bindus = present::BinduChoice{receiver_};
+    contents.options.degrees = present::DegreeForm::None;
+    large_->view()->setContents(contents);
+    analysis::Ashtakavarga table;
+    if (shown) {
+        table = analysis::computeAshtakavarga(shown->chart, panel_.varga, false);
+    }
+    const auto titled = [](const QString& name, const analysis::SignRow12& row) {
+        return tr("%1, %2 bindus").arg(name).arg(std::accumulate(row.begin(), row.end(), 0));
+    };
+    large_->setWords(
+        receiver_ == present::BinduChoice::kSarva
+            ? titled(tr("Sarvashtakavarga"), table.sarva)
+            : titled(toQt(present::pointLabel(receiver_)), core::at(table.bindus, receiver_)),
+        {});
+    contents.small = true;
+    contents.options.points.reset();
+    contents.options.arudhas = false;
+    for (int receiver = 0; receiver < int(tiles_.size()); ++receiver) {
+        contents.options.bindus = present::BinduChoice{receiver};
+        const QString name = toQt(present::pointLabel(receiver));
+        tiles_[std::size_t(receiver)]->setWords(titled(name, core::at(table.bindus, receiver)),
+                                                name);
+        tiles_[std::size_t(receiver)]->setChosen(receiver == receiver_);
+        tiles_[std::size_t(receiver)]->view()->setContents(contents);
+    }
+    arrange();
+}
+
+} // namespace kestrav::desktop

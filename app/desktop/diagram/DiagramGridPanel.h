@@ -1,0 +1,85 @@
+// Panels with one large diagram and many small ones.
+#pragma once
+
+#include "app/desktop/panels/PanelWidget.h"
+
+#include <vector>
+
+namespace kestrav::desktop
+{
+
+class DiagramTile;
+class DiagramView;
+
+/// Fills its room with the large diagram beside or above the small ones, whichever leaves more
+/// room for all.
+class DiagramGridPanel : public PanelWidget
+{
+    Q_OBJECT
+
+public:
+    DiagramGridPanel(Workspace& workspace, present::Panel panel, int small, QWidget* parent);
+
+    [[nodiscard]] QList<QAction*> panelActions() override;
+    [[nodiscard]] std::vector<present::Block> blocks() override;
+    [[nodiscard]] bool hasVarga() const override
+    {
+        return true;
+    }
+    [[nodiscard]] bool hasStyle() const override
+    {
+        return true;
+    }
+    [[nodiscard]] QSize sizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void arrange();
+    /// A small diagram was clicked.
+    virtual void tileClicked(int index) = 0;
+    /// Connects what every diagram of the grid can do.
+    void connectView(DiagramView* view);
+
+    DiagramTile* large_;
+    std::vector<DiagramTile*> tiles_;
+
+private:
+    QAction* copy_;
+    QAction* save_;
+};
+
+/// All divisional charts; the large one is the one that was clicked last.
+class VargaGridPanel : public DiagramGridPanel
+{
+    Q_OBJECT
+
+public:
+    VargaGridPanel(Workspace& workspace, present::Panel panel, QWidget* parent);
+
+    [[nodiscard]] QString title() const override;
+
+protected:
+    void refresh() override;
+    void tileClicked(int index) override;
+};
+
+/// The sarvashtakavarga and the bindus of the eight receivers in one divisional chart. A receiver
+/// that is clicked becomes the large one, and with another click the sarvashtakavarga again.
+class BinduGridPanel : public DiagramGridPanel
+{
+    Q_OBJECT
+
+public:
+    BinduGridPanel(Workspace& workspace, present::Panel panel, QWidget* parent);
+
+    [[nodiscard]] QString title() const override;
+
+protected:
+    void refresh() override;
+    void tileClicked(int index) override;
+
+private:
+    int receiver_ = present::BinduChoice::kSarva;
+};
+
+} // namespace kestrav::desktop

@@ -1,0 +1,151 @@
+#include "app/desktop/inspector/InspectorHtml.h"
+
+#include "app/desktop/shell/Convert.h"
+#include "app/desktop/shell/Theme.h"
+#include "core/Points.h"
+#include "core/Varga.h"
+
+#include <QStringList>
+
+namespace kestrav::desktop
+{
+
+namespace
+{
+
+using present::Subject;
+
+// How far a subject's numbers reach; a link from elsewhere is checked against it.
+struct Range
+{
+    Subject subject;
+    int lowest;
+    int highest;
+};
+
+constexpr Range kRanges[] = {
+    {Subject::Point, 0, core::kPointCount - 1},
+    {Subject::Sign, 1, 12},
+    {Subject::House, 1, 12},
+    {Subject::Varga, 0, core::kVargaCount - 1},
+    {Subject::Nakshatra, 0, 26},
+    {Subject::Moment, 0, 0},
+};
+
+QString escaped(const std::wstring& text)
+{
+    return toQt(text).trimmed().toHtmlEscaped();
+}
+
+QString cellHtml(const present::Cell& cell, bool right, const QString& tag)
+{
+    QString words = escaped(cell.text);
+    if (cell.link.subject != Subject::None) {
+        words = QStringLiteral("<a href='%1'>%2</a>").arg(linkText(cell.link), words);
+    }
+    return QStringLiteral("<%1 align='%2'>%3</%1>")
+        .arg(tag, right ? QStringLiteral("right") : QStringLiteral("left"), words);
+}
+
+QString tableHtml(const present::Table& table)
+{
+    if (table.columns.empty() || table.rows.empty()) {
+        return {};
+    }
+    QString html = QStringLiteral("<table cellspacing='0' cellpadding='2'>");
+    if (!table.withoutHeadings()) {
+        html += QStringLiteral("<tr>");
+        for (const present::Column& column : table.columns) {
+            html += cellHtml(column.heading, column.align == present::Align::Right,
+                             QStringLiteral("th"));
+        }
+        html += QStringLiteral("</tr>");
+    }
+    for (const present::Row& row : table.rows) {
+        html += QStringLiteral("<tr>");
+        for (std::size_t i = 0; i < row.size(); ++i) {
+            const bool right =
+                i < table.columns.size() && table.columns[i].align == present::Align::Right;
+            html += cellHtml(row[i], right, QStringLiteral("td"));
+        }
+        html += QStringLiteral("</tr>");
+    }
+    return html + QStringLiteral("</table>");
+}
+
+// Sentences that explain one another stand better below than beside what they are about.
+QString listHtml(const present::Table& table)
+{
+    QString html;
+    for (const present::Row& row : table.rows) {
+        html += QStringLiteral("<p><b>%1</b>: %2<br>%3</p>")
+                    .arg(escaped(row[0].text), escaped(row[1].text), escaped(row[2].text));
+    }
+    return html;
+}
+
+bool isList(const present::Table& table)
+{
+    return table.columns.size() == 3 && table.columns.back().align == present::Align::Wrapped;
+}
+
+} // namespace
+
+QString linkText(const present::Link& link)
+{
+    return QStringLiteral("about:%1,%2,%3,%4")
+        .arg(int(link.subject))
+        .arg(link.index)
+        .arg(link.varga)
+        .arg(link.moment, 0, 'f', 8);
+}
+
+std::optional<present::Link> linkOfText(const QString& text)
+{
+    const QStringList parts = text.startsWith(QLatin1String("about:"))
+                                  ? text.mid(6).split(QLatin1Char(','))
+                                  : QStringList();
+    if (parts.size() != 4) {
+        return std::nullopt;
+    }
+    present::Link link;
+    link.index = parts[1].toInt();
+    link.varga = parts[2].toInt();
+    link.moment = parts[3].toDouble();
+    for (const Range& range : kRanges) {
+        if (int(range.subject) == parts[0].toInt() && link.index >= range.lowest &&
+            link.index <= range.highest && link.varga >= 0 && link.varga < core::kVargaCount) {
+            link.subject = range.subject;
+            return link;
+        }
+    }
+    return std::nullopt;
+}
+
+QString inspectionHtml(const present::Inspection& inspection, const QSet<QString>& folded)
+{
+    const QString plain =
+        QStringLiteral("color:%1; text-decoration:none").arg(themeColour(ThemeRole::Accent).name());
+    QString html = QStringLiteral("<style>a { text-decoration:none; color:%1 } "
+                                  "th { font-weight:normal; color:%2 }</style><h2>%3</h2>")
+                       .arg(themeColour(ThemeRole::Accent).name(),
+                            themeColour(ThemeRole::Quiet).name(), escaped(inspection.title));
+    for (const present::Table& section : inspection.sections) {
+        const QString id = toQt(section.id);
+        const bool hidden = folded.contains(id);
+        html += QStringLiteral("<h4><a style='%1' href='fold:%2'>%3 %4</a></h4>")
+                    .arg(plain, id, hidden ? QStringLiteral("\u25B8") : QStringLiteral("\u25BE"),
+                         escaped(section.title));
+        if (hidden) {
+            continue;
+        }
+        html += isList(section) ? listHtml(section) : tableHtml(section);
+        for (const std::wstring& note : section.notes) {
+            html += QStringLiteral("<p style='color:%1'>%2</p>")
+                        .arg(themeColour(ThemeRole::Quiet).name(), escaped(note));
+        }
+    }
+    return html;
+}
+
+} // namespace kestrav::desktop
