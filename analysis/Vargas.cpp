@@ -4,9 +4,11 @@
 #include "analysis/VargaNames.h"
 #include "core/Angles.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
+#include <utility>
 
 namespace kestrav::analysis
 {
@@ -36,7 +38,7 @@ struct Place
 using Part = VargaPart;
 using Divided = VargaDivided; // whose sign is not yet brought into 1 to 12
 
-int stepInSign(double fraction, bool even)
+[[gnu::always_inline]] inline int stepInSign(double fraction, bool even)
 {
     constexpr std::array<double, 5> kFifths = {0.25, 0.5, 1.0, 0.1, 0.0};
     const double g = even ? 0.99999 - fraction : fraction;
@@ -44,19 +46,20 @@ int stepInSign(double fraction, bool even)
     return int(kFifths[std::size_t(int(g * 5.0))] * 4.0);
 }
 
-int stepInPart(double fraction)
+[[gnu::always_inline]] inline int stepInPart(double fraction)
 {
     return 2 * int((1.0 - fraction) * 3.0); // the fraction is never above 1
 }
 
-double distanceToBoundary(double fraction)
+[[gnu::always_inline]] inline double distanceToBoundary(double fraction)
 {
-    return std::fabs(fraction - (fraction >= 0.5 ? 1.0 : 0.0));
+    return std::min(fraction, 1.0 - fraction);
 }
 
 // The order of these operations is part of the rules: with 1/30 as a factor of its own the exact
 // part starts of the sign fall into the right part, but for a few of 7 and 11 divisions.
-Part partOf(double value, int division, bool evenSign, const core::Settings& settings)
+[[gnu::always_inline]] inline Part partOf(double value, int division, bool evenSign,
+                                          const core::Settings& settings)
 {
     const double x = value * division * (1.0 / 30.0);
     // x is never negative, so cutting to a whole number is exact and the same as rounding down.
@@ -73,7 +76,8 @@ Part partOf(double value, int division, bool evenSign, const core::Settings& set
 }
 
 // Parts are counted through the whole zodiac from Aries.
-Divided continuous(const Place& place, int division, const core::Settings& settings)
+[[gnu::always_inline]] inline Divided continuous(const Place& place, int division,
+                                                 const core::Settings& settings)
 {
     // Made in place: a copy of the part would cost as much as making it.
     Divided result = {0, partOf(place.longitude, division, place.even, settings)};
@@ -81,7 +85,7 @@ Divided continuous(const Place& place, int division, const core::Settings& setti
     return result;
 }
 
-Divided hora(const Place& place, const core::Settings& settings)
+[[gnu::always_inline]] inline Divided hora(const Place& place, const core::Settings& settings)
 {
     Divided result = {0, partOf(place.degreeInSign, 2, place.even, settings)};
     Part& part = result.part;
@@ -113,7 +117,8 @@ Divided hora(const Place& place, const core::Settings& settings)
     }
 }
 
-Divided shodashamsha(const Place& place, const core::Settings& settings)
+[[gnu::always_inline]] inline Divided shodashamsha(const Place& place,
+                                                   const core::Settings& settings)
 {
     Divided result = continuous(place, 16, settings);
     if (settings.shodashamshaVariant == 0) {
@@ -129,7 +134,7 @@ Divided shodashamsha(const Place& place, const core::Settings& settings)
     return result;
 }
 
-Divided rudramsha(const Place& place, const core::Settings& settings)
+[[gnu::always_inline]] inline Divided rudramsha(const Place& place, const core::Settings& settings)
 {
     if (settings.rudramshaVariant == 0) {
         return continuous(place, 11, settings);
@@ -143,7 +148,7 @@ Divided rudramsha(const Place& place, const core::Settings& settings)
 
 // Five unequal parts. An inner boundary from the second one on belongs to the earlier part, with
 // the fraction 1, but 5 degrees belongs to the later one.
-Divided trimshamsa(const Place& place, const core::Settings& settings)
+[[gnu::always_inline]] inline Divided trimshamsa(const Place& place, const core::Settings& settings)
 {
     struct Row
     {
@@ -174,7 +179,8 @@ Divided trimshamsa(const Place& place, const core::Settings& settings)
 }
 
 // The twelve parts of each navamsha are counted from the navamsha sign.
-Divided navaDwadasha(const Place& place, const core::Settings& settings)
+[[gnu::always_inline]] inline Divided navaDwadasha(const Place& place,
+                                                   const core::Settings& settings)
 {
     const double x = place.longitude * 3.6;
     const int whole = int(x);
@@ -185,7 +191,9 @@ Divided navaDwadasha(const Place& place, const core::Settings& settings)
              minutes < settings.sandhiMinutes}};
 }
 
-Divided divide(const Place& place, int varga, const core::Settings& settings)
+// Inlined into a loop for one varga, only what a placement takes of the parts is worked out.
+[[gnu::always_inline]] inline Divided divide(const Place& place, int varga,
+                                             const core::Settings& settings)
 {
     const int r = place.rashi;
     const int e = place.even ? 1 : 0;
@@ -235,15 +243,53 @@ Divided divide(const Place& place, int varga, const core::Settings& settings)
     }
 }
 
+Place placeOf(const core::Chart& chart, int point)
+{
+    const int rashi = at(chart.rashi, point);
+    return {rashi, rashi % 2 == 0, at(chart.degreeInSign, point), at(chart.longitude, point),
+            at(chart.navamshaSign, point)};
+}
+
+[[gnu::always_inline]] inline void store(core::Chart& chart, int varga, int point,
+                                         const Divided& divided)
+{
+    core::VargaPlacement& placement = at(at(chart.vargas, varga), point);
+    placement.sign = norm12(divided.sign);
+    placement.strengthStep = divided.part.strengthStep;
+    placement.position = divided.part.position;
+    at(at(chart.nearBoundary, varga), point) = divided.part.nearBoundary;
+}
+
+template <int varga>
+void computeVargaOfPoints(core::Chart& chart, const core::Settings& settings)
+{
+    for (int point = 0; point < kDividedPoints; ++point) {
+        const double degree = at(chart.degreeInSign, point);
+        if (degree >= 0.0 && degree < 30.0) {
+            store(chart, varga, point, divide(placeOf(chart, point), varga, settings));
+        } else {
+            at(at(chart.vargas, varga), point) = {};
+            at(at(chart.nearBoundary, varga), point) = false;
+        }
+    }
+    if (settings.arudhasInVargas) {
+        storeArudhaSigns(chart, varga, settings);
+    }
+}
+
+template <std::size_t... vargas>
+void computeEach(core::Chart& chart, const core::Settings& settings,
+                 std::index_sequence<vargas...> /*every varga*/)
+{
+    (computeVargaOfPoints<int(vargas)>(chart, settings), ...);
+}
+
 } // namespace
 
 VargaDivided divideInVarga(const core::Chart& chart, int varga, int point,
                            const core::Settings& settings)
 {
-    const int rashi = at(chart.rashi, point);
-    const Place place = {rashi, rashi % 2 == 0, at(chart.degreeInSign, point),
-                         at(chart.longitude, point), at(chart.navamshaSign, point)};
-    Divided divided = divide(place, varga, settings);
+    Divided divided = divide(placeOf(chart, point), varga, settings);
     divided.sign = norm12(divided.sign);
     return divided;
 }
@@ -251,31 +297,15 @@ VargaDivided divideInVarga(const core::Chart& chart, int varga, int point,
 bool computeVarga(core::Chart& chart, int varga, int point, const core::Settings& settings)
 {
     const VargaDivided divided = divideInVarga(chart, varga, point, settings);
-    core::VargaPlacement& placement = at(at(chart.vargas, varga), point);
     chart.hasPlacements = true;
-    placement.sign = divided.sign;
-    placement.strengthStep = divided.part.strengthStep;
-    placement.position = divided.part.position;
-    at(at(chart.nearBoundary, varga), point) = divided.part.nearBoundary;
+    store(chart, varga, point, divided);
     return divided.part.nearBoundary;
 }
 
 void computeAllVargas(core::Chart& chart, const core::Settings& settings)
 {
-    for (int varga = 0; varga < core::kVargaCount; ++varga) {
-        for (int point = 0; point < kDividedPoints; ++point) {
-            const double degree = at(chart.degreeInSign, point);
-            if (degree >= 0.0 && degree < 30.0) {
-                computeVarga(chart, varga, point, settings);
-            } else {
-                at(at(chart.vargas, varga), point) = {};
-                at(at(chart.nearBoundary, varga), point) = false;
-            }
-        }
-        if (settings.arudhasInVargas) {
-            storeArudhaSigns(chart, varga, settings);
-        }
-    }
+    chart.hasPlacements = true;
+    computeEach(chart, settings, std::make_index_sequence<core::kVargaCount>());
 }
 
 int signInVarga(const core::Chart& chart, int varga, int point)
