@@ -128,6 +128,16 @@ ResearchTable::ResearchTable(const data::LineList& research, const data::ChartDa
     }
 }
 
+ResearchTable::ResearchTable(const data::LineList& research, const std::vector<std::size_t>& lines)
+    : research_(research)
+{
+    for (const std::size_t line : lines) {
+        if (line < research.size() && !research.line(line).empty()) {
+            lines_.push_back(line);
+        }
+    }
+}
+
 std::optional<double> ResearchTable::number(std::size_t row, std::size_t column) const
 {
     return columnNumber(research_.line(lines_[row]), columnAt(column));

@@ -42,6 +42,9 @@ public:
     /// Those with this tag.
     ResearchTable(const data::LineList& research, const data::ChartDatabase& database, wchar_t tag);
 
+    /// Those of the given lines that are not empty, such as the lines that a search found.
+    ResearchTable(const data::LineList& research, const std::vector<std::size_t>& lines);
+
     /// The lines of the table, in order.
     [[nodiscard]] const std::vector<std::size_t>& lines() const
     {
