@@ -1,5 +1,6 @@
 #include "app/desktop/panels/TablePanel.h"
 
+#include "app/desktop/panels/ShownColumns.h"
 #include "app/desktop/panels/TableExport.h"
 #include "app/desktop/panels/TableView.h"
 #include "app/desktop/shell/Convert.h"
@@ -112,7 +113,10 @@ TablePanel::TablePanel(Workspace& workspace, present::Panel panel, QWidget* pare
     connect(copy, &QAction::triggered, view_, &TableView::copy);
     auto* const save = new QAction(tr("&Save Table..."), this);
     connect(save, &QAction::triggered, this, &TablePanel::saveTable);
-    actions_ = {copy, save};
+    auto* const columns = new QAction(tr("C&olumns..."), this);
+    columns->setObjectName(QStringLiteral("ColumnsAction"));
+    connect(columns, &QAction::triggered, this, &TablePanel::chooseShownColumns);
+    actions_ = {copy, save, columns};
 }
 
 QString TablePanel::title() const
@@ -168,6 +172,7 @@ void TablePanel::show(core::Result<present::Table> made)
     QString note;
     if (!made) {
         note = tr("Not computed: %1").arg(toQt(made.error().text()));
+        whole_ = {};
         view_->setTable({});
     } else {
         QStringList notes;
@@ -180,12 +185,20 @@ void TablePanel::show(core::Result<present::Table> made)
             title_ = newTitle;
             emit captionChanged();
         }
-        view_->setTable(made.value());
+        whole_ = std::move(made.value());
+        view_->setTable(withColumns(whole_, shownColumns(whole_.id, whole_.columns.size())));
     }
     note_->setText(note);
     note_->setVisible(!note.isEmpty());
-    view_->setVisible(made.ok() && !made.value().explainsItsEmptiness());
+    view_->setVisible(made.ok() && !whole_.explainsItsEmptiness());
     view_->setAccessibleName(title());
+}
+
+void TablePanel::chooseShownColumns()
+{
+    if (!whole_.columns.empty() && chooseColumns(whole_, this)) {
+        view_->setTable(withColumns(whole_, shownColumns(whole_.id, whole_.columns.size())));
+    }
 }
 
 void TablePanel::saveTable()

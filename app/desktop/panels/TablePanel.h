@@ -3,6 +3,7 @@
 
 #include "app/desktop/panels/PanelWidget.h"
 #include "app/desktop/shell/BackgroundWork.h"
+#include "app/present/Table.h"
 
 class QLabel;
 
@@ -29,9 +30,11 @@ protected:
 private:
     void show(core::Result<present::Table> made);
     void saveTable();
+    void chooseShownColumns();
 
     TableView* view_;
     QLabel* note_;
+    present::Table whole_; ///< with all its columns
     BackgroundWork work_;
     QString title_;
     QList<QAction*> actions_;
