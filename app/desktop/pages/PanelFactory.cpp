@@ -9,9 +9,14 @@
 #include "app/desktop/panels/UnknownPanel.h"
 #include "app/desktop/report/TReportForm.h"
 #include "app/desktop/timing/DashaTreePanel.h"
+#include "app/desktop/timing/EphemerisPanel.h"
+#include "app/desktop/timing/EphemerisStripPanel.h"
+#include "app/desktop/timing/EventsPanel.h"
 #include "app/desktop/timing/LifeBarPanel.h"
 #include "app/desktop/timing/PanchangaStripsPanel.h"
 #include "app/desktop/timing/TPanchangForm.h"
+#include "app/desktop/timing/TransitListingPanel.h"
+#include "app/desktop/timing/TrialTimesPanel.h"
 
 #include <string_view>
 
@@ -47,6 +52,11 @@ constexpr ViewRow kViews[] = {
     {"life-bar", make<LifeBarPanel>},
     {"panchanga", make<TPanchangForm>},
     {"panchanga-strips", make<PanchangaStripsPanel>},
+    {"transit-listing", make<TransitListingPanel>},
+    {"ephemeris", make<EphemerisPanel>},
+    {"ephemeris-strip", make<EphemerisStripPanel>},
+    {"events", make<EventsPanel>},
+    {"trial-times", make<TrialTimesPanel>},
 };
 
 } // namespace

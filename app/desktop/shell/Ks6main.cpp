@@ -19,6 +19,7 @@
 #include "app/desktop/shell/StatusLine.h"
 #include "app/desktop/shell/TMessages.h"
 #include "app/desktop/shell/Theme.h"
+#include "app/desktop/timing/TimingActions.h"
 
 #include <QAction>
 #include <QApplication>
@@ -136,6 +137,7 @@ void TKSVform1::makeMenus()
 // The commands of every part of the program, in the order in which they stand in the menus.
 void TKSVform1::makeOthers()
 {
+    new TimingActions(*this);
     setRightPane(makeInspectorPane(workspace_, this));
     new PrintActions(*this);
     addCommand(MenuName::File,

@@ -18,6 +18,8 @@
 #include "app/desktop/pages/PageStrip.h"
 #include "app/desktop/pages/TPageLayoutDlg.h"
 #include "app/desktop/shell/Ks6main.h"
+#include "app/desktop/timing/Specialdate.h"
+#include "app/desktop/timing/TTransitChoicesDlg.h"
 
 #include <QWidget>
 
@@ -97,6 +99,14 @@ std::span<const GalleryRow> gallery()
          [](TKSVform1& window) -> QWidget* {
              return new TChooseChartDlg(window.workspace().database(), QObject::tr("Compare With"),
                                         &window);
+         }},
+        {"SpecialDateDlg",
+         [](TKSVform1& window) -> QWidget* {
+             return new TSpecialDateDlg(window.workspace(), &window);
+         }},
+        {"TransitChoicesDlg",
+         [](TKSVform1& window) -> QWidget* {
+             return new TTransitChoicesDlg(window.workspace(), &window);
          }},
     };
     return kRows;
