@@ -85,8 +85,8 @@ void DateField::showProblem() const
 BirthPage::BirthPage(Workspace& workspace, QWidget* parent)
     : EntryPage(parent), workspace_(workspace),
       name_(makeEdit(this, "NameEdit", int(data::kNameLength))),
-      nameNote_(makeNote(this, "NameNoteLabel")), sex_(new CodeComboBox(kSexes, 1, this)),
-      dateLabel_(new QLabel(this)), time_(makeEdit(this, "TimeEdit", int(data::kTimeLength))),
+      sex_(new CodeComboBox(kSexes, 1, this)), dateLabel_(new QLabel(this)),
+      time_(makeEdit(this, "TimeEdit", int(data::kTimeLength))),
       timeNote_(makeNote(this, "TimeNoteLabel")), place_(new PlaceFields(workspace, this))
 {
     sex_->setObjectName(QStringLiteral("SexComboBox"));
@@ -95,6 +95,7 @@ BirthPage::BirthPage(Workspace& workspace, QWidget* parent)
     date_.edit = makeEdit(this, "DateEdit", kDateLength);
     date_.note = makeNote(this, "DateNoteLabel");
     dateLabel_->setObjectName(QStringLiteral("DateOrderLabel"));
+    name_->setPlaceholderText(toQt(data::kNoNameText));
     auto* const rows = new QFormLayout(this);
     rows->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     addRow(*rows, tr("Na&me:"), {name_});

@@ -98,7 +98,6 @@ private:
 
     Workspace& workspace_;
     QLineEdit* name_;
-    QLabel* nameNote_;
     CodeComboBox* sex_;
     DateField date_;
     QLabel* dateLabel_;

@@ -65,7 +65,7 @@ void addRow(QFormLayout& form, const QString& label, std::initializer_list<QWidg
     auto* const row = new QHBoxLayout;
     bool grows = false;
     for (QWidget* const each : fields) {
-        const bool note = qobject_cast<QLabel*>(each) != nullptr;
+        const bool note = each == *(fields.end() - 1) && qobject_cast<QLabel*>(each) != nullptr;
         const bool wide = each->minimumWidth() != each->maximumWidth() &&
                           qobject_cast<QLineEdit*>(each) != nullptr;
         row->addWidget(each, note || wide ? 1 : 0);

@@ -101,6 +101,7 @@ PlaceFields::PlaceFields(Workspace& workspace, QWidget* form)
     saving_->setObjectName(QStringLiteral("DstSpinBox"));
     saving_->setRange(0, kMostSaving);
     saving_->setSuffix(tr(" h"));
+    saving_->setAccessibleName(tr("Daylight saving"));
     saving_->setToolTip(tr("Whole hours of daylight saving time in force; a half hour belongs "
                            "into the zone"));
 
@@ -136,7 +137,6 @@ PlaceFields::PlaceFields(Workspace& workspace, QWidget* form)
     });
     PlaceSource& source = PlaceSource::of(workspace_);
     connect(&source, &PlaceSource::loaded, this, &PlaceFields::showSource);
-    source.preload();
     showSource();
 }
 
@@ -225,6 +225,7 @@ QStringList PlaceFields::missing() const
 
 void PlaceFields::fill(const core::Chart& chart, bool withPlace)
 {
+    PlaceSource::of(workspace_).preload();
     filling_ = true;
     fillText(*city_, toQt(chart.place));
     fillText(*country_, toQt(chart.identity.country));
@@ -270,10 +271,9 @@ std::string PlaceFields::zoneName() const
 
 void PlaceFields::CountryEditExit()
 {
-    if (city_->text() == seenCity_ && country_->text() == seenCountry_) {
-        return;
-    }
-    if (!city_->text().trimmed().isEmpty()) {
+    // A form that is left takes the focus away too.
+    const bool same = city_->text() == seenCity_ && country_->text() == seenCountry_;
+    if (!same && country_->isVisible() && !city_->text().trimmed().isEmpty()) {
         lookUp();
     }
 }
@@ -394,7 +394,7 @@ void PlaceFields::fillTime(const data::PlaceAnswer& answer)
 
 void PlaceFields::momentChanged()
 {
-    if (!place_ || zone_.touched || savingTouched_) {
+    if (!place_ || zone_.touched || savingTouched_ || !country_->isVisible()) {
         return;
     }
     const data::PlaceAnswer answer = answering_(places_->places, places_->places.place(*place_));

@@ -30,7 +30,7 @@ constexpr double kZoomStep = 1.5;
 TWorldMapForm::TWorldMapForm(PlacesPointer places, std::optional<present::GeoPlace> begin,
                              QWidget* parent)
     : QDialog(parent), places_(std::move(places)), find_(new QLineEdit(this)),
-      map_(new WorldMapView(places_, this)), chosen_(new QLabel(this)),
+      map_(new WorldMapView(places_, this)), near_(new QLabel(this)), chosen_(new QLabel(this)),
       buttons_(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this))
 {
     setObjectName(QStringLiteral("TWorldMapForm"));
@@ -44,8 +44,12 @@ TWorldMapForm::TWorldMapForm(PlacesPointer places, std::optional<present::GeoPla
     chosen_->setObjectName(QStringLiteral("PlaceLabel"));
     chosen_->setTextFormat(Qt::PlainText);
     chosen_->setWordWrap(true);
-    chosen_->setText(tr("Click on the map to choose the nearest place. The wheel zooms, dragging "
-                        "moves the map."));
+    near_->setObjectName(QStringLiteral("NearLabel"));
+    near_->setTextFormat(Qt::PlainText);
+    near_->setWordWrap(true);
+    near_->setText(tr("Click on the map to choose the nearest place. The wheel zooms, dragging "
+                      "moves the map."));
+    chosen_->setText(tr("No place is chosen."));
     const auto zoomButton = [this](const QString& text, const char* name, const QString& tip,
                                    double factor) {
         auto* const button = new QToolButton(this);
@@ -65,6 +69,7 @@ TWorldMapForm::TWorldMapForm(PlacesPointer places, std::optional<present::GeoPla
     auto* const box = new QVBoxLayout(this);
     box->addLayout(top);
     box->addWidget(map_, 1);
+    box->addWidget(near_);
     box->addWidget(chosen_);
     box->addWidget(buttons_);
 
@@ -78,6 +83,8 @@ TWorldMapForm::TWorldMapForm(PlacesPointer places, std::optional<present::GeoPla
     connect(find_, &QLineEdit::returnPressed, this, &TWorldMapForm::FindEditReturnPressed);
     connect(map_, &WorldMapView::picked, this, &TWorldMapForm::choose);
     connect(map_, &WorldMapView::activated, this, &QDialog::accept);
+    connect(map_, &WorldMapView::hovered, this,
+            [this](std::uint32_t place) { near_->setText(tr("Here: %1").arg(describe(place))); });
     if (begin) {
         map_->setMarks({*begin});
         map_->showAround(*begin, kZoomAround);
@@ -85,15 +92,22 @@ TWorldMapForm::TWorldMapForm(PlacesPointer places, std::optional<present::GeoPla
     find_->setFocus();
 }
 
+// Name, coordinates and zone.
+QString TWorldMapForm::describe(std::uint32_t place) const
+{
+    const data::Place& found = places_->places.place(place);
+    return tr("%1, %2, %3, %4")
+        .arg(toQt(present::fullName(places_->places, found)),
+             toQt(data::longitudeText(found.longitude)).trimmed(),
+             toQt(data::latitudeText(found.latitude)).trimmed(),
+             toQt(places_->places.zones().name(found.zone)));
+}
+
 void TWorldMapForm::choose(std::uint32_t place)
 {
     place_ = place;
+    chosen_->setText(tr("Chosen: %1").arg(describe(place)));
     const data::Place& chosen = places_->places.place(place);
-    chosen_->setText(tr("%1\n%2  %3  %4")
-                         .arg(toQt(present::fullName(places_->places, chosen)),
-                              toQt(data::longitudeText(chosen.longitude)).trimmed(),
-                              toQt(data::latitudeText(chosen.latitude)).trimmed(),
-                              toQt(places_->places.zones().name(chosen.zone))));
     map_->setMarks({{chosen.latitude, chosen.longitude}});
     buttons_->button(QDialogButtonBox::Ok)->setEnabled(true);
 }

@@ -33,12 +33,14 @@ public:
 
 private:
     void choose(std::uint32_t place);
+    [[nodiscard]] QString describe(std::uint32_t place) const;
     void FindEditReturnPressed();
 
     PlacesPointer places_;
     std::optional<std::uint32_t> place_;
     QLineEdit* find_;
     WorldMapView* map_;
+    QLabel* near_;
     QLabel* chosen_;
     QDialogButtonBox* buttons_;
 };

@@ -40,6 +40,7 @@ WorldMapView::WorldMapView(PlacesPointer places, QWidget* parent)
            "to its middle"));
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::CrossCursor);
+    setMouseTracking(true);
 }
 
 void WorldMapView::setMarks(std::vector<present::GeoPlace> marks)
@@ -260,6 +261,10 @@ void WorldMapView::mousePressEvent(QMouseEvent* event)
 void WorldMapView::mouseMoveEvent(QMouseEvent* event)
 {
     if ((event->buttons() & Qt::LeftButton) == 0) {
+        const present::Spot spot = onMap(event->position());
+        if (const auto place = places_->dots.nearest(present::placeOfMapSpot(spot))) {
+            emit hovered(*place);
+        }
         return;
     }
     const int distance = (event->position() - pressed_).toPoint().manhattanLength();

@@ -32,6 +32,8 @@ public:
 signals:
     /// The place nearest to where the user clicked.
     void picked(std::uint32_t place);
+    /// The place nearest to the pointer.
+    void hovered(std::uint32_t place);
     /// The place was chosen for good.
     void activated();
 
