@@ -8,6 +8,8 @@
 #include "app/desktop/panels/TextPanel.h"
 #include "app/desktop/panels/UnknownPanel.h"
 #include "app/desktop/report/TReportForm.h"
+#include "app/desktop/research/NativesPanel.h"
+#include "app/desktop/research/ResearchPanel.h"
 #include "app/desktop/timing/DashaTreePanel.h"
 #include "app/desktop/timing/EphemerisPanel.h"
 #include "app/desktop/timing/EphemerisStripPanel.h"
@@ -17,6 +19,7 @@
 #include "app/desktop/timing/TPanchangForm.h"
 #include "app/desktop/timing/TransitListingPanel.h"
 #include "app/desktop/timing/TrialTimesPanel.h"
+#include "app/desktop/yogas/Ytyogatree.h"
 
 #include <string_view>
 
@@ -41,6 +44,7 @@ struct ViewRow
 };
 
 // The views by the names of present::panelViews().
+// clang-format off
 constexpr ViewRow kViews[] = {
     {"notes", make<TextPanel>},
     {"report", make<TReportForm>},
@@ -52,12 +56,16 @@ constexpr ViewRow kViews[] = {
     {"life-bar", make<LifeBarPanel>},
     {"panchanga", make<TPanchangForm>},
     {"panchanga-strips", make<PanchangaStripsPanel>},
+    {"yoga-tree", make<TYogaTreeForm>},
+    {"natives", make<NativesPanel>},
+    {"research", make<ResearchPanel>},
     {"transit-listing", make<TransitListingPanel>},
     {"ephemeris", make<EphemerisPanel>},
     {"ephemeris-strip", make<EphemerisStripPanel>},
     {"events", make<EventsPanel>},
     {"trial-times", make<TrialTimesPanel>},
 };
+// clang-format on
 
 } // namespace
 

@@ -20,6 +20,7 @@
 #include "app/desktop/shell/TMessages.h"
 #include "app/desktop/shell/Theme.h"
 #include "app/desktop/timing/TimingActions.h"
+#include "app/desktop/yogas/YogaActions.h"
 
 #include <QAction>
 #include <QApplication>
@@ -147,6 +148,7 @@ void TKSVform1::makeOthers()
     new OptionsActions(*this);
     new StatusLine(*this);
     new EntryActions(*this);
+    new YogaActions(*this);
 }
 
 void TKSVform1::makeViewMenu()

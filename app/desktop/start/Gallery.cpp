@@ -17,9 +17,13 @@
 #include "app/desktop/options/TSelectDashaDlg.h"
 #include "app/desktop/pages/PageStrip.h"
 #include "app/desktop/pages/TPageLayoutDlg.h"
+#include "app/desktop/panels/TColumnsDlg.h"
 #include "app/desktop/shell/Ks6main.h"
 #include "app/desktop/timing/Specialdate.h"
 #include "app/desktop/timing/TTransitChoicesDlg.h"
+#include "app/desktop/yogas/TYogaConditionDlg.h"
+#include "app/desktop/yogas/YogaDesk.h"
+#include "app/desktop/yogas/Ytyogatree.h"
 
 #include <QWidget>
 
@@ -35,6 +39,21 @@ std::span<const GalleryRow> gallery()
         {"PageLayoutDlg",
          [](TKSVform1& window) -> QWidget* {
              return new TPageLayoutDlg(window.pages().layout(0), &window);
+         }},
+        {"ColumnsDlg",
+         [](TKSVform1& window) -> QWidget* {
+             return new TColumnsDlg({QStringLiteral("Planet"), QStringLiteral("Longitude"),
+                                     QStringLiteral("Sign"), QStringLiteral("Nakshatra")},
+                                    {0, 2}, &window);
+         }},
+        {"YogaConditionDlg",
+         [](TKSVform1& window) -> QWidget* {
+             return new TYogaConditionDlg(window.workspace(), "InHouse,,Jup,Moo,ken", &window);
+         }},
+        {"YogaTreeForm",
+         [](TKSVform1& window) -> QWidget* {
+             YogaDesk::of(window.workspace()).select(yoga::YogaPlace{0, 0});
+             return makeYogaWindow(window.workspace(), &window);
          }},
         {"OptionsDlg",
          [](TKSVform1& window) -> QWidget* {
