@@ -80,6 +80,10 @@ DiagramGridPanel::DiagramGridPanel(Workspace& workspace, present::Panel panel, i
 {
     large_->view()->setObjectName(QStringLiteral("LargeDiagramView"));
     connectView(large_->view());
+    connect(large_->view(), &DiagramView::degreesWanted, this, [this] {
+        degrees_ = present::DegreeForm((int(degrees()) + 1) % 3);
+        markDue();
+    });
     for (int i = 0; i < small; ++i) {
         auto* const tile = new DiagramTile(this);
         tile->view()->setObjectName(QStringLiteral("DiagramView%1").arg(i));
@@ -104,6 +108,11 @@ void DiagramGridPanel::connectView(DiagramView* view)
     connect(view, &DiagramView::styleWanted, this,
             [this](present::DiagramStyle style) { setStyle(style); });
     connect(view, &DiagramView::told, &workspace(), &Workspace::tell);
+}
+
+present::DegreeForm DiagramGridPanel::degrees() const
+{
+    return degrees_.value_or(present::DegreeForm(workspace().settings().diagramDegrees));
 }
 
 QList<QAction*> DiagramGridPanel::panelActions()
@@ -200,6 +209,7 @@ void VargaGridPanel::refresh()
     const ChartPointer shown = chart();
     DiagramContents contents = diagramContents(workspace(), panel_, shown);
     contents.options.boundaries = true;
+    contents.options.degrees = degrees();
     large_->view()->setContents(contents);
     QStringList near;
     for (int point = 0; shown && point < present::kPlacedPoints; ++point) {

@@ -3,6 +3,7 @@
 
 #include "app/desktop/panels/PanelWidget.h"
 
+#include <optional>
 #include <vector>
 
 namespace kestrav::desktop
@@ -40,12 +41,16 @@ protected:
     /// Connects what every diagram of the grid can do.
     void connectView(DiagramView* view);
 
+    /// Degrees in the large diagram.
+    [[nodiscard]] present::DegreeForm degrees() const;
+
     DiagramTile* large_;
     std::vector<DiagramTile*> tiles_;
 
 private:
     QAction* copy_;
     QAction* save_;
+    std::optional<present::DegreeForm> degrees_; ///< none for those of the settings
 };
 
 /// All divisional charts; the large one is the one that was clicked last.

@@ -207,6 +207,7 @@ void DiagramView::setZoom(int percent)
     const double factor = double(percent) / zoom_;
     zoom_ = percent;
     origin_ = anchor - (anchor - origin_) * factor;
+    anchor_ = {};
     rebuild();
 }
 

@@ -33,6 +33,31 @@ constexpr int kLeastZoom = 50;
 constexpr int kMostZoom = 400;
 constexpr int kWheelStep = 120;
 
+// The keys that mean something in a diagram; all others stay with the window.
+bool ownKey(const QKeyEvent& event)
+{
+    switch (event.key()) {
+    case Qt::Key_V:
+    case Qt::Key_N:
+    case Qt::Key_S:
+    case Qt::Key_C:
+    case Qt::Key_E:
+    case Qt::Key_A:
+    case Qt::Key_D:
+    case Qt::Key_Escape:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        return true;
+    default:
+        return event.key() >= Qt::Key_0 && event.key() <= Qt::Key_9;
+    }
+}
+
 // A diagram has few letters of its own; with Ctrl or Alt they belong to the window.
 bool plain(const QKeyEvent& event)
 {
@@ -58,7 +83,7 @@ bool DiagramView::event(QEvent* event)
     }
     if (event->type() == QEvent::ShortcutOverride) {
         auto* const keys = static_cast<QKeyEvent*>(event);
-        if (keys->matches(QKeySequence::Copy) || (plain(*keys) && !keys->text().isEmpty())) {
+        if (keys->matches(QKeySequence::Copy) || (plain(*keys) && ownKey(*keys))) {
             event->accept();
             return true;
         }
