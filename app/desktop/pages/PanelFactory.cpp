@@ -1,9 +1,11 @@
 #include "app/desktop/pages/PanelFactory.h"
 
+#include "app/desktop/compare/ComparePanel.h"
 #include "app/desktop/diagram/DiagramGridPanel.h"
 #include "app/desktop/diagram/DiagramPanel.h"
 #include "app/desktop/inspector/HeatPanel.h"
 #include "app/desktop/inspector/InspectorPanel.h"
+#include "app/desktop/notes/NotesPanel.h"
 #include "app/desktop/panels/TablePanel.h"
 #include "app/desktop/panels/TextPanel.h"
 #include "app/desktop/panels/UnknownPanel.h"
@@ -46,7 +48,8 @@ struct ViewRow
 // The views by the names of present::panelViews().
 // clang-format off
 constexpr ViewRow kViews[] = {
-    {"notes", make<TextPanel>},
+    {"notes", make<NotesPanel>},
+    {"compare", make<ComparePanel>},
     {"report", make<TReportForm>},
     {"varga-grid", make<VargaGridPanel>},
     {"bindu-grid", make<BinduGridPanel>},

@@ -1,0 +1,39 @@
+// The notes of the shown chart: read, edited, searched and printed.
+#pragma once
+
+#include "app/desktop/panels/PanelWidget.h"
+
+class QLineEdit;
+class QPlainTextEdit;
+class QPushButton;
+
+namespace kestrav::desktop
+{
+
+class NotesPanel : public PanelWidget
+{
+    Q_OBJECT
+
+public:
+    NotesPanel(Workspace& workspace, present::Panel panel, QWidget* parent);
+
+    [[nodiscard]] QString title() const override;
+    [[nodiscard]] QList<QAction*> panelActions() override;
+    [[nodiscard]] std::vector<present::Block> blocks() override;
+
+protected:
+    void refresh() override;
+
+private:
+    void KeepButtonClick();
+    void FindEditReturnPressed();
+    void showState();
+
+    QPlainTextEdit* text_;
+    QLineEdit* find_;
+    QPushButton* keep_;
+    QList<QAction*> actions_;
+    std::wstring shownOf_; ///< the chart whose notes are in the editor
+};
+
+} // namespace kestrav::desktop
