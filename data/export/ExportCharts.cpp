@@ -70,15 +70,15 @@ std::string exportText(ChartDatabase& database, ExportFormat format, ExportRepor
     return format == ExportFormat::Json ? text + "\n]}\n" : text;
 }
 
-Outcome exportCharts(ChartDatabase& database, ExportFormat format, const std::filesystem::path& to,
-                     core::Messages& messages, ExportReport& report)
+Outcome agreeToExport(const std::filesystem::path& database, ExportFormat format,
+                      const std::filesystem::path& to, core::Messages& messages)
 {
     if (format == ExportFormat::Contacts && lowered(to.extension().string()) == ".jdf") {
         messages.notice(kErrorCaption, kNoJdfExport);
         return Outcome::Failed;
     }
     std::error_code problem;
-    if (std::filesystem::equivalent(to, database.path(), problem)) {
+    if (std::filesystem::equivalent(to, database, problem)) {
         messages.notice(kErrorCaption,
                         L"This is the database itself; give the export another name");
         return Outcome::Failed;
@@ -87,7 +87,23 @@ Outcome exportCharts(ChartDatabase& database, ExportFormat format, const std::fi
         messages.show(kWarningCaption, kOverwrite, core::Buttons::YesNo) != core::Answer::Yes) {
         return Outcome::Cancelled;
     }
-    const core::Result<void> written = writeDerivedFile(to, exportText(database, format, report));
+    return Outcome::Done;
+}
+
+core::Result<void> writeExport(ChartDatabase& database, ExportFormat format,
+                               const std::filesystem::path& to, ExportReport& report)
+{
+    return writeDerivedFile(to, exportText(database, format, report));
+}
+
+Outcome exportCharts(ChartDatabase& database, ExportFormat format, const std::filesystem::path& to,
+                     core::Messages& messages, ExportReport& report)
+{
+    const Outcome agreed = agreeToExport(database.path(), format, to, messages);
+    if (agreed != Outcome::Done) {
+        return agreed;
+    }
+    const core::Result<void> written = writeExport(database, format, to, report);
     if (!written) {
         messages.notice(kErrorCaption,
                         kSavingError + (L" " + core::fromFileBytes(written.error().text())));

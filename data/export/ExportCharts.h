@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/Messages.h"
+#include "core/Result.h"
 #include "data/ChartDatabase.h"
 #include "data/DatabaseCommands.h"
 
@@ -37,6 +38,15 @@ struct ExportReport
 /// The bytes of an export. Lines too short to be charts are left out with a note.
 [[nodiscard]] std::string exportText(ChartDatabase& database, ExportFormat format,
                                      ExportReport& report);
+
+/// Whether an export may be written to the file: not over the database itself, not with the
+/// extension ".jdf" for contacts, over another file only when the user agrees.
+Outcome agreeToExport(const std::filesystem::path& database, ExportFormat format,
+                      const std::filesystem::path& to, core::Messages& messages);
+
+/// Writes an export that was agreed to.
+[[nodiscard]] core::Result<void> writeExport(ChartDatabase& database, ExportFormat format,
+                                             const std::filesystem::path& to, ExportReport& report);
 
 /// Writes an export. An existing file is replaced only when the user agrees, and without keeping it
 /// as a backup, whose name belongs to the database. The contact export refuses a name that ends

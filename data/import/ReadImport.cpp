@@ -262,16 +262,23 @@ std::size_t appendImport(ChartDatabase& database, ImportReport& report)
     return report.charts.size();
 }
 
-Outcome importFile(ChartDatabase& database, const fs::path& file, const ImportOptions& options,
-                   core::Messages& messages, ImportReport& report)
+Outcome agreeToImport(const fs::path& file, const fs::path& database, core::Messages& messages)
 {
     if (::access(file.c_str(), R_OK) != 0) {
         messages.notice(kErrorCaption, kCannotFindImport);
         return Outcome::Failed;
     }
-    if (messages.show(kNoticeCaption, addQuestion(file, database.path()), core::Buttons::YesNo) !=
-        core::Answer::Yes) {
-        return Outcome::Cancelled;
+    const core::Answer answer =
+        messages.show(kNoticeCaption, addQuestion(file, database), core::Buttons::YesNo);
+    return answer == core::Answer::Yes ? Outcome::Done : Outcome::Cancelled;
+}
+
+Outcome importFile(ChartDatabase& database, const fs::path& file, const ImportOptions& options,
+                   core::Messages& messages, ImportReport& report)
+{
+    const Outcome agreed = agreeToImport(file, database.path(), messages);
+    if (agreed != Outcome::Done) {
+        return agreed;
     }
     report = readImport(file, options);
     if (appendImport(database, report) == 0) {

@@ -65,8 +65,11 @@ struct ImportOptions
 /// field, are moved to the refused ones. Returns how many were added.
 std::size_t appendImport(ChartDatabase& database, ImportReport& report);
 
-/// Asks "Add ... to ...?" and appends the charts of the file. A file that cannot be opened gives
-/// "Can't find the file". The database is not saved.
+/// Asks "Add ... to ...?". A file that cannot be opened gives "Can't find the file" instead.
+Outcome agreeToImport(const std::filesystem::path& file, const std::filesystem::path& database,
+                      core::Messages& messages);
+
+/// Asks whether to add the charts of the file, and appends them. The database is not saved.
 Outcome importFile(ChartDatabase& database, const std::filesystem::path& file,
                    const ImportOptions& options, core::Messages& messages, ImportReport& report);
 

@@ -116,6 +116,7 @@ void OpenDatabase::adopt(Content content)
     undo_.clear();
     watch();
     emit reset();
+    emit opened();
     emit modifiedChanged();
 }
 

@@ -109,6 +109,8 @@ public:
     }
 
 signals:
+    /// Another file, or the same one read anew.
+    void opened();
     /// Everything may have changed: another file, or many lines.
     void reset();
     /// One line has changed; the list shows it already.

@@ -1,5 +1,6 @@
 #include "app/desktop/shell/Ks6main.h"
 
+#include "app/desktop/database/DatabaseActions.h"
 #include "app/desktop/database/OpenDatabase.h"
 #include "app/desktop/entry/EntryActions.h"
 #include "app/desktop/inspector/InspectorPanel.h"
@@ -140,6 +141,7 @@ void TKSVform1::makeOthers()
 {
     new TimingActions(*this);
     setRightPane(makeInspectorPane(workspace_, this));
+    new DatabaseActions(*this);
     new PrintActions(*this);
     addCommand(MenuName::File,
                {"QuitAction", tr("&Quit"), QKeySequence(tr("Ctrl+Q")), tr("Leaves the program"),

@@ -1,6 +1,6 @@
 #include "app/desktop/start/Startup.h"
 
-#include "app/desktop/database/OpenDatabase.h"
+#include "app/desktop/database/OpenFirst.h"
 #include "app/desktop/options/OptionsActions.h"
 #include "app/desktop/pages/PageStrip.h"
 #include "app/desktop/shell/BackgroundWork.h"
@@ -70,32 +70,6 @@ YogasPointer loadYogas(Workspace& workspace)
     return library;
 }
 
-// Opens a file that was named on the command line, or the sample charts.
-void openFirstDatabase(Workspace& workspace, const ProgramOptions& options)
-{
-    std::optional<std::filesystem::path> path;
-    for (const std::string& file : options.files) {
-        path = path ? path : std::filesystem::path(file);
-    }
-    if (!path) {
-        path = core::findFile("Sample.ksc");
-    }
-    if (!path) {
-        return;
-    }
-    if (const auto loaded = workspace.database().load(*path); !loaded) {
-        workspace.tellProblem(toQt(loaded.error().text()));
-        return;
-    }
-    std::size_t line = 0;
-    if (options.chart) {
-        line = workspace.database().charts().find(core::fromFileBytes(*options.chart)).value_or(0);
-    }
-    if (workspace.database().charts().size() > line) {
-        workspace.showLine(line);
-    }
-}
-
 void applySize(QWidget& window, const ProgramOptions& options)
 {
     const QStringList parts =
@@ -147,7 +121,7 @@ int runWindow(int& count, char** words, const ProgramOptions& options)
                             std::move(settings), settingsPath);
         TKSVform1 window(workspace);
         workspace.setYogas(loadYogas(workspace));
-        openFirstDatabase(workspace, options);
+        openFirst(window, options);
         if (options.page) {
             window.pages().show(toQt(*options.page));
         }

@@ -1,0 +1,543 @@
+#include "app/desktop/database/ChartListPane.h"
+
+#include "app/desktop/database/ChartListModel.h"
+#include "app/desktop/database/RecentFiles.h"
+#include "app/desktop/database/ResearchKeys.h"
+#include "app/desktop/shell/BackgroundWork.h"
+#include "app/desktop/shell/Convert.h"
+#include "app/desktop/shell/Icons.h"
+#include "app/desktop/shell/StateFile.h"
+#include "app/desktop/shell/Theme.h"
+#include "app/desktop/shell/Workspace.h"
+#include "data/ChartLine.h"
+#include "data/ResearchDatabase.h"
+
+#include <QComboBox>
+#include <QFileInfo>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QMenu>
+#include <QPushButton>
+#include <QSplitter>
+#include <QTreeView>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
+
+namespace kestrav::desktop
+{
+
+namespace
+{
+
+constexpr std::size_t kMostOpened = 10;
+constexpr char kSortKey[] = "chartList/sort";
+
+// How much of the pane the sections get when nobody has moved the handle.
+constexpr int kListShare = 4;
+
+QLabel* quietLabel(QWidget* parent)
+{
+    auto* const label = new QLabel(parent);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+} // namespace
+
+ChartListPane::ChartListPane(Workspace& workspace, QWidget* parent)
+    : QWidget(parent), workspace_(workspace), model_(new ChartListModel(workspace, this)),
+      reading_(new BackgroundWork(this)), filter_(new QLineEdit(this)), sort_(new QComboBox(this)),
+      label_(new QComboBox(this)), reloadBar_(new QFrame(this)), reloadText_(quietLabel(this)),
+      list_(new QTreeView(this)), count_(quietLabel(this)), sections_(new QTreeWidget(this))
+{
+    setObjectName(QStringLiteral("ChartListPane"));
+    setAccessibleName(tr("Charts"));
+    makeChoosers();
+    makeList();
+    makeSections();
+    makeReloadBar();
+    arrange();
+    fitColumns();
+    OpenDatabase& database = workspace_.database();
+    connect(&database, &OpenDatabase::opened, this, [this] {
+        reloadBar_->hide();
+        readResearch();
+    });
+    connect(&database, &OpenDatabase::modifiedChanged, this, [this] {
+        if (!workspace_.database().modified() && !workspace_.database().charts().changedOnDisk()) {
+            reloadBar_->hide();
+        }
+    });
+    connect(&workspace_, &Workspace::chartChanged, this, &ChartListPane::ChartChanged);
+    connect(&workspace_, &Workspace::settingsChanged, this, [this] { fillLabels(); });
+    readResearch();
+    showCount();
+    showOpened();
+    showRecentFiles();
+}
+
+void ChartListPane::makeChoosers()
+{
+    filter_->setObjectName(QStringLiteral("FilterEdit"));
+    filter_->setAccessibleName(tr("Filter charts"));
+    filter_->setPlaceholderText(tr("Filter by name or date"));
+    filter_->setClearButtonEnabled(true);
+    filter_->installEventFilter(this);
+    connect(filter_, &QLineEdit::textChanged, this, &ChartListPane::FilterEditTextChanged);
+
+    sort_->setObjectName(QStringLiteral("SortComboBox"));
+    sort_->setAccessibleName(tr("Order and groups"));
+    sort_->setToolTip(tr("Which charts are listed, and in which order"));
+    for (int i = 0; i < data::kSortOrders; ++i) {
+        sort_->addItem(toQt(data::sortOrderText(i)));
+    }
+    const int kept = stateOfWindow().value(kSortKey).toInt();
+    sort_->setCurrentIndex(std::clamp(kept, 0, data::kSortOrders - 1));
+    model_->setSort(data::SortOrder(sort_->currentIndex()));
+    connect(sort_, &QComboBox::activated, this, &ChartListPane::SortComboBoxActivated);
+
+    label_->setObjectName(QStringLiteral("LabelComboBox"));
+    label_->setAccessibleName(tr("Labels from the research database"));
+    label_->setToolTip(tr("Orders and labels the charts by what the research database says"));
+    for (QComboBox* const box : {sort_, label_}) {
+        box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        box->setMinimumContentsLength(8);
+    }
+    connect(label_, &QComboBox::activated, this, &ChartListPane::LabelComboBoxActivated);
+    fillLabels();
+    label_->hide();
+}
+
+void ChartListPane::makeList()
+{
+    list_->setObjectName(QStringLiteral("ChartList"));
+    list_->setAccessibleName(tr("Charts of the database"));
+    list_->setModel(model_);
+    list_->setRootIsDecorated(false);
+    list_->setItemsExpandable(false);
+    list_->setUniformRowHeights(true);
+    list_->setAllColumnsShowFocus(true);
+    list_->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    list_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    list_->setDragEnabled(true);
+    list_->setDragDropMode(QAbstractItemView::DragOnly);
+    list_->setContextMenuPolicy(Qt::CustomContextMenu);
+    list_->setTabKeyNavigation(false);
+    list_->setColumnHidden(ChartListModel::LabelColumn, true);
+    list_->header()->setStretchLastSection(false);
+    list_->header()->setSectionsMovable(false);
+    list_->installEventFilter(this);
+    connect(list_, &QTreeView::doubleClicked, this, [this] { openCurrent(false); });
+    connect(list_, &QWidget::customContextMenuRequested, this, &ChartListPane::ListContextMenu);
+    connect(model_, &QAbstractItemModel::modelAboutToBeReset, this, &ChartListPane::keepSelection);
+    connect(model_, &QAbstractItemModel::modelReset, this, &ChartListPane::restoreSelection);
+    for (const auto signal :
+         {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved}) {
+        connect(model_, signal, this, &ChartListPane::showCount);
+    }
+    connect(list_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &ChartListPane::showCount);
+    count_->setObjectName(QStringLiteral("CountLabel"));
+    count_->setAccessibleName(tr("Number of charts"));
+}
+
+void ChartListPane::makeSections()
+{
+    sections_->setObjectName(QStringLiteral("SectionsTree"));
+    sections_->setAccessibleName(tr("Now, open charts and recent files"));
+    sections_->setHeaderHidden(true);
+    sections_->setUniformRowHeights(true);
+    auto* const now = new QTreeWidgetItem(sections_, {tr("Now")});
+    now->setToolTip(0, tr("The chart of the moment at the Now location"));
+    now->setIcon(0, icon("appointment-new"));
+    openItem_ = new QTreeWidgetItem(sections_, {tr("Open")});
+    recentItem_ = new QTreeWidgetItem(sections_, {tr("Recent Files")});
+    sections_->expandItem(openItem_);
+    sections_->expandItem(recentItem_);
+    connect(sections_, &QTreeWidget::itemActivated, this,
+            &ChartListPane::SectionsTreeItemActivated);
+}
+
+void ChartListPane::makeReloadBar()
+{
+    reloadBar_->setObjectName(QStringLiteral("ReloadBar"));
+    reloadBar_->setAutoFillBackground(true);
+    reloadText_->setObjectName(QStringLiteral("ReloadLabel"));
+    reloadText_->setWordWrap(true);
+    auto* const reload = new QPushButton(tr("&Reload"), reloadBar_);
+    reload->setObjectName(QStringLiteral("ReloadButton"));
+    auto* const keep = new QPushButton(tr("&Keep Mine"), reloadBar_);
+    keep->setObjectName(QStringLiteral("KeepButton"));
+    connect(reload, &QPushButton::clicked, this, &ChartListPane::reloadWanted);
+    connect(keep, &QPushButton::clicked, reloadBar_, &QWidget::hide);
+    auto* const buttons = new QHBoxLayout;
+    buttons->addWidget(reload);
+    buttons->addWidget(keep);
+    buttons->addStretch(1);
+    auto* const box = new QVBoxLayout(reloadBar_);
+    box->addWidget(reloadText_);
+    box->addLayout(buttons);
+    reloadBar_->hide();
+}
+
+void ChartListPane::arrange()
+{
+    auto* const top = new QWidget(this);
+    auto* const box = new QVBoxLayout(top);
+    const int gap = fontMetrics().height() / 3;
+    box->setContentsMargins(gap, gap, gap, 0);
+    box->setSpacing(gap);
+    box->addWidget(filter_);
+    auto* const choosers = new QHBoxLayout;
+    choosers->addWidget(sort_, 1);
+    choosers->addWidget(label_, 1);
+    box->addLayout(choosers);
+    box->addWidget(reloadBar_);
+    box->addWidget(list_, 1);
+    box->addWidget(count_);
+    auto* const bottom = new QWidget(this);
+    auto* const bottomBox = new QVBoxLayout(bottom);
+    bottomBox->setContentsMargins(gap, 0, gap, gap);
+    bottomBox->addWidget(sections_);
+    auto* const splitter = new QSplitter(Qt::Vertical, this);
+    splitter->setObjectName(QStringLiteral("ChartListSplitter"));
+    splitter->addWidget(top);
+    splitter->addWidget(bottom);
+    splitter->setStretchFactor(0, kListShare);
+    splitter->setStretchFactor(1, 1);
+    splitter->setChildrenCollapsible(false);
+    auto* const whole = new QVBoxLayout(this);
+    whole->setContentsMargins({});
+    whole->addWidget(splitter);
+    setTabOrder(filter_, sort_);
+    setTabOrder(sort_, label_);
+    setTabOrder(label_, list_);
+    setTabOrder(list_, sections_);
+}
+
+void ChartListPane::fitColumns()
+{
+    QHeaderView& header = *list_->header();
+    // The shown chart is bold, so its date is the widest.
+    QFont bold = list_->font();
+    bold.setBold(true);
+    const QFontMetrics letters(bold);
+    const int margin = 2 * letters.averageCharWidth();
+    header.setMinimumSectionSize(letters.averageCharWidth());
+    header.setSectionResizeMode(QHeaderView::Interactive);
+    header.setSectionResizeMode(ChartListModel::NameColumn, QHeaderView::Stretch);
+    const auto width = [&](ChartListModel::Column column, const QString& text) {
+        const QString title =
+            model_->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+        header.resizeSection(
+            column,
+            std::max(letters.horizontalAdvance(text), letters.horizontalAdvance(title)) + margin);
+    };
+    width(ChartListModel::DateColumn, QStringLiteral("00/00/0000"));
+    width(ChartListModel::TimeColumn, QStringLiteral("00:00"));
+    width(ChartListModel::TagColumn, QStringLiteral("A"));
+    width(ChartListModel::LabelColumn, QStringLiteral("Sagittarius  (Trop. Sun)"));
+}
+
+void ChartListPane::fillLabels()
+{
+    const int chosen = std::max(label_->currentIndex(), 0);
+    label_->clear();
+    label_->addItem(tr("No labels"));
+    for (const data::ResearchKey& key : researchKeys()) {
+        label_->addItem(researchKeyText(key));
+    }
+    label_->setCurrentIndex(chosen);
+}
+
+void ChartListPane::readResearch()
+{
+    const std::filesystem::path path = workspace_.database().path();
+    reading_->start([path](const WorkHandle&) { return data::loadResearch(path); },
+                    [this](core::Result<data::LineList> lines) {
+                        const bool has = lines.ok() && lines.value().size() > 0;
+                        label_->setVisible(has);
+                        if (!has && label_->currentIndex() > 0) {
+                            label_->setCurrentIndex(0);
+                            LabelComboBoxActivated(0);
+                        }
+                        model_->setResearch(has ? std::move(lines.value()) : data::LineList());
+                    });
+}
+
+std::vector<std::size_t> ChartListPane::selectedLines() const
+{
+    std::vector<int> rows;
+    for (const QItemSelectionRange& range : list_->selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+            rows.push_back(row);
+        }
+    }
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    std::vector<std::size_t> lines;
+    lines.reserve(rows.size());
+    for (const int row : rows) {
+        lines.push_back(model_->lineAt(row));
+    }
+    return lines;
+}
+
+void ChartListPane::focusFilter()
+{
+    show();
+    filter_->setFocus(Qt::ShortcutFocusReason);
+    filter_->selectAll();
+}
+
+bool ChartListPane::editName(std::size_t line)
+{
+    const std::optional<int> row = model_->positionOf(line);
+    if (row) {
+        show();
+        const QModelIndex index = model_->index(*row, ChartListModel::NameColumn);
+        list_->setCurrentIndex(index);
+        list_->setFocus(Qt::ShortcutFocusReason);
+        list_->edit(index);
+    }
+    return row.has_value();
+}
+
+void ChartListPane::selectLine(std::size_t line)
+{
+    if (const std::optional<int> row = model_->positionOf(line)) {
+        list_->setCurrentIndex(model_->index(*row, 0));
+    }
+}
+
+void ChartListPane::offerReload(const QString& file)
+{
+    QPalette palette;
+    palette.setColor(QPalette::Window, themeColour(ThemeRole::News));
+    reloadBar_->setPalette(palette);
+    reloadText_->setText(tr("%1 was changed by another program.").arg(file));
+    reloadBar_->setAccessibleName(reloadText_->text());
+    reloadBar_->show();
+}
+
+void ChartListPane::showCount()
+{
+    const QLocale locale = QLocale::c();
+    const int shown = model_->rowCount();
+    const auto all = qlonglong(workspace_.database().list().rows.size());
+    const auto selected = qlonglong(selectedLines().size());
+    QString text = shown == all
+                       ? (all == 1 ? tr("1 chart") : tr("%1 charts").arg(locale.toString(all)))
+                       : tr("%1 of %2 charts").arg(locale.toString(shown), locale.toString(all));
+    if (selected > 1) {
+        text += tr(", %1 selected").arg(locale.toString(selected));
+    }
+    count_->setText(text);
+}
+
+void ChartListPane::keepSelection()
+{
+    keptLines_ = selectedLines();
+    const QModelIndex current = list_->currentIndex();
+    keptCurrent_.reset();
+    if (current.isValid() && current.row() < model_->rowCount()) {
+        keptCurrent_ = model_->lineAt(current.row());
+    }
+}
+
+void ChartListPane::restoreSelection()
+{
+    constexpr std::size_t kMostKept = 100;
+    std::optional<int> current = keptCurrent_ ? model_->positionOf(*keptCurrent_) : std::nullopt;
+    if (!current && model_->rowCount() > 0 && !filter_->text().isEmpty()) {
+        current = 0;
+    }
+    if (current) {
+        list_->setCurrentIndex(model_->index(*current, 0));
+    }
+    if (keptLines_.size() > 1 && keptLines_.size() <= kMostKept) {
+        for (const std::size_t line : keptLines_) {
+            if (const std::optional<int> row = model_->positionOf(line)) {
+                list_->selectionModel()->select(model_->index(*row, 0),
+                                                QItemSelectionModel::Select |
+                                                    QItemSelectionModel::Rows);
+            }
+        }
+    }
+    showCount();
+}
+
+bool ChartListPane::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        const auto* const pressed = static_cast<QKeyEvent*>(event);
+        const bool plain = (pressed->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+        if (plain && watched == list_ && listKey(pressed->key())) {
+            return true;
+        }
+        if (plain && watched == filter_ && filterKey(pressed->key())) {
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+bool ChartListPane::listKey(int key)
+{
+    const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
+    if (enter || key == Qt::Key_Space) {
+        openCurrent(!enter);
+        return true;
+    }
+    return false;
+}
+
+bool ChartListPane::filterKey(int key)
+{
+    switch (key) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        openCurrent(false);
+        return true;
+    case Qt::Key_Down:
+        list_->setFocus(Qt::TabFocusReason);
+        return true;
+    case Qt::Key_Escape:
+        filter_->clear();
+        list_->setFocus(Qt::TabFocusReason);
+        return true;
+    default:
+        return false;
+    }
+}
+
+void ChartListPane::openCurrent(bool preview)
+{
+    const QModelIndex current = list_->currentIndex();
+    if (!current.isValid() || current.row() >= model_->rowCount()) {
+        return;
+    }
+    const bool before = std::exchange(previewing_, preview);
+    const bool shown = workspace_.showLine(model_->lineAt(current.row()));
+    previewing_ = before;
+    if (shown && !preview) {
+        emit chartOpened();
+    }
+}
+
+void ChartListPane::ChartChanged()
+{
+    if (workspace_.chart() && workspace_.chartLine() && !previewing_) {
+        const QString name = toQt(workspace_.record().name);
+        std::erase_if(opened_, [&](const Opened& one) { return one.name == name; });
+        opened_.insert(
+            opened_.begin(),
+            {name, std::string(workspace_.database().charts().line(*workspace_.chartLine()))});
+        opened_.resize(std::min(opened_.size(), kMostOpened));
+        showOpened();
+        selectLine(*workspace_.chartLine());
+    }
+}
+
+void ChartListPane::showOpened()
+{
+    qDeleteAll(openItem_->takeChildren());
+    for (const Opened& opened : opened_) {
+        new QTreeWidgetItem(openItem_, {opened.name});
+    }
+    openItem_->setHidden(opened_.empty());
+}
+
+void ChartListPane::showRecentFiles()
+{
+    qDeleteAll(recentItem_->takeChildren());
+    for (const QString& file : recentFiles()) {
+        auto* const item = new QTreeWidgetItem(recentItem_, {QFileInfo(file).fileName()});
+        item->setToolTip(0, file);
+        item->setData(0, Qt::UserRole, file);
+    }
+    recentItem_->setHidden(recentItem_->childCount() == 0);
+}
+
+void ChartListPane::openAgain(const Opened& opened)
+{
+    data::ChartDatabase& charts = workspace_.database().charts();
+    if (const auto line = charts.find(toWide(opened.name))) {
+        workspace_.showLine(*line);
+        return;
+    }
+    core::Chart record;
+    data::DateOrder order = charts.order();
+    workspace_.showRecord(data::ParseChartLine(opened.line, record, order));
+}
+
+void ChartListPane::SectionsTreeItemActivated(QTreeWidgetItem* item)
+{
+    if (item->parent() == openItem_) {
+        // What is shown changes the list that the chart stands in.
+        const Opened opened = opened_[std::size_t(openItem_->indexOfChild(item))];
+        openAgain(opened);
+        emit chartOpened();
+    } else if (item->parent() == recentItem_) {
+        emit fileWanted(item->data(0, Qt::UserRole).toString());
+    } else if (item != openItem_ && item != recentItem_) {
+        workspace_.showRecord(workspace_.nowRecord());
+        emit chartOpened();
+    }
+}
+
+void ChartListPane::ListContextMenu(const QPoint& position)
+{
+    QMenu menu(this);
+    menu.setObjectName(QStringLiteral("ChartListMenu"));
+    const bool any = list_->currentIndex().isValid();
+    QAction* const open = menu.addAction(tr("&Open"), this, [this] { openCurrent(false); });
+    QAction* const second = menu.addAction(tr("Open as &Second Chart"), this, [this] {
+        if (const auto record =
+                workspace_.database().record(model_->lineAt(list_->currentIndex().row()))) {
+            workspace_.showSecond(*record);
+        }
+    });
+    open->setEnabled(any);
+    second->setEnabled(any);
+    menu.addSeparator();
+    emit menuWanted(&menu);
+    menu.exec(list_->viewport()->mapToGlobal(position));
+}
+
+void ChartListPane::FilterEditTextChanged(const QString& text)
+{
+    model_->setFilter(text);
+}
+
+void ChartListPane::SortComboBoxActivated(int index)
+{
+    model_->setSort(data::SortOrder(index));
+    stateOfWindow().setValue(kSortKey, index);
+}
+
+void ChartListPane::LabelComboBoxActivated(int index)
+{
+    const bool labelled = index > 0;
+    list_->setColumnHidden(ChartListModel::LabelColumn, !labelled);
+    model_->setLabels(labelled ? std::optional(researchKeys()[std::size_t(index) - 1])
+                               : std::nullopt);
+}
+
+void ChartListPane::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        fitColumns();
+    }
+}
+
+} // namespace kestrav::desktop

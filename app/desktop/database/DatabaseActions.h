@@ -1,0 +1,72 @@
+// The commands on database files: opening, saving, copying.
+#pragma once
+
+#include "app/desktop/shell/TMessages.h"
+
+#include <QObject>
+
+#include <filesystem>
+#include <functional>
+
+class QMenu;
+
+namespace kestrav::desktop
+{
+
+class ChartListPane;
+class OpenDatabase;
+class TKSVform1;
+
+class DatabaseActions : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Puts the chart list into the window and the commands on databases into its menus.
+    explicit DatabaseActions(TKSVform1& window);
+
+    /// Opens a database after asking what becomes of unsaved changes; a chart file of another
+    /// program is imported, and a yoga file loaded. What is wrong with the file is told. `then`
+    /// learns whether a database was opened; large files are read on another thread.
+    void open(const std::filesystem::path& path, std::function<void(bool opened)> then = {});
+
+    /// Saves; asks for another name where the file cannot be written. False when nothing was saved.
+    bool save();
+    bool saveAs();
+    /// Asks what becomes of unsaved changes before they are lost. False when the user cancels.
+    [[nodiscard]] bool mayDropChanges();
+    /// No questions at the end, for runs without a user.
+    void leaveWithoutQuestions();
+
+    [[nodiscard]] ChartListPane& pane()
+    {
+        return *pane_;
+    }
+    [[nodiscard]] TMessages& messages()
+    {
+        return messages_;
+    }
+
+private:
+    void addFileCommands();
+    void addSaveCommands();
+    void NewDatabaseActionClick();
+    void OpenActionClick();
+    void fillRecent(QMenu& menu);
+    void reload();
+    void SaveInOtherOrderActionClick();
+    void BackupActionClick();
+    void RestoreActionClick();
+    void read(const std::filesystem::path& path, std::function<void(bool opened)> then);
+    void loadYogas(const std::filesystem::path& path);
+    void showFirst();
+    [[nodiscard]] bool mayLeave();
+    [[nodiscard]] OpenDatabase& database();
+
+    TKSVform1& window_;
+    TMessages messages_;
+    ChartListPane* pane_;
+    bool quiet_ = false;
+};
+
+} // namespace kestrav::desktop

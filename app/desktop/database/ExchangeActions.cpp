@@ -1,0 +1,300 @@
+#include "app/desktop/database/ExchangeActions.h"
+
+#include "app/desktop/database/DatabaseActions.h"
+#include "app/desktop/database/ExchangeTables.h"
+#include "app/desktop/database/OpenDatabase.h"
+#include "app/desktop/database/RecentFiles.h"
+#include "app/desktop/database/SettledMessages.h"
+#include "app/desktop/database/TImportReportDlg.h"
+#include "app/desktop/database/TMergePreviewDlg.h"
+#include "app/desktop/database/TProgressDlg.h"
+#include "app/desktop/shell/Convert.h"
+#include "app/desktop/shell/Ks6main.h"
+#include "data/DatabaseMessages.h"
+
+#include <QAction>
+#include <QFileInfo>
+#include <QMenu>
+
+#include <cstdint>
+#include <span>
+#include <utility>
+
+namespace kestrav::desktop
+{
+
+using data::Outcome;
+
+// What a merge works on while nothing is changed yet.
+struct ExchangeActions::Merging
+{
+    data::ChartDatabase ours;
+    data::ChartDatabase theirs;
+    std::filesystem::path path;
+    NotedMessages notes;
+    bool opened = false;
+    data::MergePreview preview;
+    present::Table table;
+};
+
+namespace
+{
+
+constexpr wchar_t kImportFilter[] =
+    L"Charts of other programs (*.qck, *.cht, *.jhd, *.jdf, *.dat, *.xml, *.txt)|"
+    L"*.qck;*.cht;*.jhd;*.jdf;*.dat;*.xml;*.txt|";
+constexpr wchar_t kAllFiles[] = L"|All files (*)|*";
+
+QString charts(std::size_t count)
+{
+    return count == 1 ? ExchangeActions::tr("1 chart")
+                      : ExchangeActions::tr("%1 charts").arg(count);
+}
+
+} // namespace
+
+ExchangeActions::ExchangeActions(TKSVform1& window, DatabaseActions& files)
+    : QObject(&window), window_(window), files_(files)
+{
+    window_.addCommand(MenuName::File,
+                       {"MergeAction",
+                        tr("&Merge..."),
+                        {},
+                        tr("Brings the charts of another database into this one")},
+                       [this] { MergeActionClick(); });
+    addImportCommands();
+    addExportCommands();
+}
+
+OpenDatabase& ExchangeActions::database()
+{
+    return window_.workspace().database();
+}
+
+void ExchangeActions::addImportCommands()
+{
+    QMenu* const menu = window_.menu(MenuName::File)->addMenu(tr("&Import"));
+    window_.addCommand(menu,
+                       {"ImportFileAction",
+                        tr("&File..."),
+                        {},
+                        tr("Adds the charts of a file of another program"),
+                        "document-import"},
+                       [this] { ImportFileActionClick(); });
+    window_.addCommand(menu,
+                       {"ImportFolderAction",
+                        tr("All .jhd and .dat Files of a F&older..."),
+                        {},
+                        tr("Adds the charts of all such files of a folder")},
+                       [this] { ImportFolderActionClick(); });
+    menu->addSeparator();
+    Command letters{"DosLettersAction",
+                    tr("Read Letters of &DOS Files (CP850)"),
+                    {},
+                    tr("For files of DOS days, whose accented letters are read wrongly otherwise")};
+    letters.checkable = true;
+    dosLetters_ = window_.addCommand(menu, letters, [] {});
+}
+
+void ExchangeActions::addExportCommands()
+{
+    using Format = data::ExportFormat;
+    QMenu* const menu = window_.menu(MenuName::File)->addMenu(tr("E&xport"));
+    const auto add = [&](const char* name, const QString& text, const QString& tip, Format format,
+                         const QString& caption, const char* suffix, const std::wstring& filter) {
+        window_.addCommand(menu, {name, text, {}, tip}, [this, format, caption, suffix, filter] {
+            exportAs(format, caption, QLatin1String(suffix), filter);
+        });
+    };
+    add("ExportQckAction", tr("&QCK Chart List..."), tr("Writes a chart list in fixed columns"),
+        Format::Qck, toQt(data::kQckNamePrompt), ".QCK", L"QCK chart list (*.qck)|*.qck");
+    add("ExportContactsAction", tr("&Contact Information..."),
+        tr("Writes names and addresses as a text with tabs"), Format::Contacts,
+        tr("Export Contact Information"), ".txt", L"Text with tabs (*.txt)|*.txt");
+    add("ExportCsvAction", tr("Comma-&Separated Values..."), tr("Writes a table for spreadsheets"),
+        Format::Csv, tr("Export Charts"), ".csv", L"Comma-separated values (*.csv)|*.csv");
+    add("ExportJsonAction", tr("&JSON..."), tr("Writes every field of all charts for programs"),
+        Format::Json, tr("Export Charts"), ".json", L"JSON (*.json)|*.json");
+}
+
+data::ImportOptions ExchangeActions::options()
+{
+    return {dosLetters_->isChecked() ? data::ByteEncoding::CodePage850
+                                     : data::ByteEncoding::Windows1252,
+            database().charts().order()};
+}
+
+void ExchangeActions::MergeActionClick()
+{
+    const auto file = TMessages::fileToOpen(&window_, tr("Merge Database"), data::kDatabaseFilter,
+                                            QFileInfo(toQt(database().path())).path());
+    if (!file) {
+        return;
+    }
+    // Shared, because the work may outlive the window.
+    auto merging = std::make_shared<Merging>();
+    merging->ours = database().charts();
+    merging->theirs = data::ChartDatabase(merging->ours.order());
+    merging->path = toPath(*file);
+    workWithBox(
+        &window_, tr("Comparing %1").arg(QFileInfo(*file).fileName()), {},
+        [merging](const WorkHandle&) {
+            merging->opened =
+                data::openDatabase(merging->theirs, merging->path, merging->notes) == Outcome::Done;
+            if (merging->opened) {
+                merging->preview = data::previewMerge(merging->ours, merging->theirs);
+                merging->table = mergeTable(merging->preview, merging->ours, merging->theirs);
+            }
+            return merging;
+        },
+        [this](const std::shared_ptr<Merging>& compared) {
+            repeat(compared->notes.said(), files_.messages());
+            if (compared->opened) {
+                preview(compared);
+            }
+        });
+}
+
+void ExchangeActions::preview(const std::shared_ptr<Merging>& merging)
+{
+    auto* const dialog = new TMergePreviewDlg(merging->preview, merging->table, merging->path,
+                                              database().path(), &window_);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this, [this, dialog, merging] {
+        data::MergeResult result;
+        database().change(tr("Merge %1").arg(toQt(data::fileText(merging->path))),
+                          [&](data::ChartDatabase& ours) {
+                              result = data::merge(ours, merging->preview, dialog->changed());
+                              return Outcome::Done;
+                          });
+        window_.workspace().tell(
+            tr("%1 added, %2 replaced").arg(charts(result.added)).arg(result.replaced));
+    });
+    dialog->open();
+}
+
+void ExchangeActions::ImportFileActionClick()
+{
+    const auto file = TMessages::fileToOpen(
+        &window_, tr("Import Charts"),
+        kImportFilter + std::wstring(data::kBirthdatFilter) + kAllFiles, chartsFolder());
+    if (file) {
+        importFile(toPath(*file));
+    }
+}
+
+void ExchangeActions::importFile(const std::filesystem::path& file)
+{
+    if (data::agreeToImport(file, database().path(), files_.messages()) != Outcome::Done) {
+        return;
+    }
+    const QString name = toQt(data::fileText(file));
+    workWithBox(
+        &window_, tr("Reading %1").arg(name), {},
+        [file, chosen = options()](const WorkHandle&) {
+            return std::vector<data::ImportReport>{data::readImport(file, chosen)};
+        },
+        [this, name](std::vector<data::ImportReport> reports) {
+            append(std::move(reports), name);
+        });
+}
+
+void ExchangeActions::ImportFolderActionClick()
+{
+    const auto file = TMessages::fileToOpen(
+        &window_, tr("Select any file to import all .jhd and .dat data files"),
+        L"Data files (*.jhd, *.dat)|*.jhd;*.dat", chartsFolder());
+    if (!file) {
+        return;
+    }
+    const std::filesystem::path folder = toPath(*file).parent_path();
+    if (data::agreeToImport(folder, database().path(), files_.messages()) != Outcome::Done) {
+        return;
+    }
+    const QString name = toQt(data::fileText(folder));
+    workWithBox(
+        &window_, tr("Reading the files of %1").arg(name), {},
+        [folder, chosen = options()](const WorkHandle&) {
+            return data::readImportFolder(folder, chosen);
+        },
+        [this, name](std::vector<data::ImportReport> reports) {
+            append(std::move(reports), name);
+        });
+}
+
+void ExchangeActions::append(std::vector<data::ImportReport> reports, const QString& what)
+{
+    std::size_t added = 0;
+    database().change(tr("Import %1").arg(what), [&](data::ChartDatabase& charts) {
+        for (data::ImportReport& report : reports) {
+            added += data::appendImport(charts, report);
+        }
+        return added > 0 ? Outcome::Done : Outcome::Cancelled;
+    });
+    auto* const dialog = new TImportReportDlg(reports, &window_);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
+}
+
+void ExchangeActions::addLines(const std::string& lines)
+{
+    const std::span<const std::uint8_t> bytes(reinterpret_cast<const std::uint8_t*>(lines.data()),
+                                              lines.size());
+    data::ImportReport report = data::readImportBytes(bytes, "", options());
+    std::size_t added = 0;
+    database().change(tr("Add Dropped Charts"), [&](data::ChartDatabase& target) {
+        added = data::appendImport(target, report);
+        return added > 0 ? Outcome::Done : Outcome::Cancelled;
+    });
+    if (added > 0) {
+        window_.workspace().tell(tr("%1 added").arg(charts(added)));
+    } else {
+        window_.workspace().tellProblem(tr("What was dropped holds no new charts."));
+    }
+}
+
+void ExchangeActions::exportAs(data::ExportFormat format, const QString& caption,
+                               const QString& suffix, const std::wstring& filter)
+{
+    const QString base = QFileInfo(toQt(database().path())).completeBaseName();
+    const auto file = TMessages::fileToSave(&window_, caption, filter,
+                                            chartsFolder() + QLatin1Char('/') +
+                                                (base.isEmpty() ? tr("Charts") : base) + suffix);
+    if (!file || data::agreeToExport(database().path(), format, toPath(*file), files_.messages()) !=
+                     Outcome::Done) {
+        return;
+    }
+    struct Written
+    {
+        core::Result<void> result;
+        data::ExportReport report;
+    };
+    // Shared, because the work may outlive the window.
+    const auto copy = std::make_shared<data::ChartDatabase>(database().charts());
+    workWithBox(
+        &window_, tr("Writing %1").arg(QFileInfo(*file).fileName()), {},
+        [copy, format, path = toPath(*file)](const WorkHandle&) {
+            Written written;
+            written.result = data::writeExport(*copy, format, path, written.report);
+            return written;
+        },
+        [this, name = *file](const Written& written) {
+            if (!written.result) {
+                files_.messages().notice(
+                    data::kErrorCaption,
+                    data::kSavingError +
+                        (L" " + core::fromFileBytes(written.result.error().text())));
+                return;
+            }
+            if (written.report.notes.empty()) {
+                window_.workspace().tell(
+                    tr("%1 written to %2").arg(charts(written.report.written), name));
+                return;
+            }
+            auto* const dialog = new TImportReportDlg(written.report, name, &window_);
+            dialog->setAttribute(Qt::WA_DeleteOnClose);
+            dialog->open();
+        });
+}
+
+} // namespace kestrav::desktop
