@@ -212,9 +212,11 @@ std::string bashScript()
     for (const OptionInfo& option : kOptions) {
         names += (names.empty() ? "" : " ") + std::string(option.name);
     }
+    // One name a line: those of files have blanks.
     return "# Completions of kestrav for bash.\n"
            "_kestrav()\n{\n"
-           "    local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD-1]}\n"
+           "    local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD-1]} file\n"
+           "    COMPREPLY=()\n"
            "    case $previous in\n"
            "    --scheme) COMPREPLY=($(compgen -W 'light dark' -- \"$current\")); return ;;\n"
            "    --print-completion)\n"
@@ -224,12 +226,22 @@ std::string bashScript()
            "        COMPREPLY=($(compgen -W '" +
            names +
            "' -- \"$current\"))\n"
-           "    else\n"
-           "        COMPREPLY=($(compgen -f -X '!*.@(ksc|dat|ksy|KSC|DAT|KSY)' -- \"$current\")\n"
-           "                   $(compgen -d -- \"$current\"))\n"
+           "        return\n"
            "    fi\n"
+           "    while IFS= read -r file; do\n"
+           "        if [[ -d $file || $file =~ \\.(ksc|dat|ksy|KSC|DAT|KSY)$ ]]; then\n"
+           "            COMPREPLY+=(\"$file\")\n"
+           "        fi\n"
+           "    done < <(compgen -f -- \"$current\")\n"
            "}\n"
            "complete -o filenames -F _kestrav kestrav\n";
+}
+
+std::string zshValues(const OptionInfo& option)
+{
+    return option.name == "--scheme"             ? "(light dark)"
+           : option.name == "--print-completion" ? "(bash zsh fish)"
+                                                 : "_files";
 }
 
 std::string zshScript()
@@ -240,7 +252,8 @@ std::string zshScript()
         std::replace(meaning.begin(), meaning.end(), '\'', '`');
         std::replace(meaning.begin(), meaning.end(), ':', ',');
         text += "    '" + std::string(option.name) + "[" + meaning + "]" +
-                (option.value.empty() ? "" : ":" + std::string(option.value) + ":_files") +
+                (option.value.empty() ? ""
+                                      : ":" + std::string(option.value) + ":" + zshValues(option)) +
                 "' \\\n";
     }
     return text + "    '*:file:_files -g \"*.(ksc|dat|ksy)\"'\n";
