@@ -36,5 +36,6 @@ need_packages() {
 BUILD_PACKAGES=(cmake ninja-build g++ libxml2-dev libcli11-dev nlohmann-json3-dev qt6-base-dev
     fonts-dejavu-core)
 TEST_PACKAGES=(libgtest-dev libgmock-dev liberfa-dev python3 python3-jsonschema clang-format
-    locales man-db libxml2-utils librsvg2-bin poppler-utils)
+    locales man-db libxml2-utils librsvg2-bin poppler-utils appstream
+    desktop-file-utils shared-mime-info libglib2.0-bin)
 ALL_PACKAGES=(clang clang-tidy libclang-rt-14-dev libbenchmark-dev dpkg-dev file)
