@@ -13,6 +13,7 @@
 #include "core/SettingsFile.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QTimer>
 
 #include <cstdio>
@@ -104,6 +105,9 @@ int runWindow(int& count, char** words, const ProgramOptions& options)
     QApplication::setApplicationDisplayName(QStringLiteral("Kestrav"));
     QApplication::setApplicationVersion(QStringLiteral(KESTRAV_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("org.kestrav.Kestrav"));
+    if (const auto icon = core::findFile("icons/kestrav.png")) {
+        QApplication::setWindowIcon(QIcon(toQt(*icon)));
+    }
 
     TMessages messages;
     const std::filesystem::path settingsPath = options.settingsFile
