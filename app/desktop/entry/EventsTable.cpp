@@ -75,6 +75,7 @@ EventsTable::EventsTable(QWidget* parent) : QTableWidget(core::kLifeEvents, kCol
     horizontalHeader()->setSectionResizeMode(kState, QHeaderView::ResizeToContents);
     horizontalHeader()->setMinimumSectionSize(8 * digit);
     horizontalHeader()->setHighlightSections(false);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 8 / 5);
     setMinimumWidth(64 * digit);
     connect(this, &QTableWidget::cellChanged, this, [this](int row, int column) {
         if (!filling_ && column != kState) {

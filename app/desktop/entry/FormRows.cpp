@@ -2,11 +2,15 @@
 
 #include "app/desktop/shell/Theme.h"
 
+#include <QDialog>
+#include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPalette>
+#include <QPushButton>
 
 #include <algorithm>
 
@@ -18,6 +22,34 @@ namespace
 
 constexpr int kLongestShort = 14;
 constexpr int kLongestWide = 34;
+
+// Takes the Enter keys that no field and no focused button wanted.
+class EnterFilter : public QObject
+{
+public:
+    explicit EnterFilter(QDialog& dialog) : QObject(&dialog), dialog_(dialog)
+    {}
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (watched != &dialog_ || event->type() != QEvent::KeyPress) {
+            return false;
+        }
+        const auto* const key = static_cast<QKeyEvent*>(event);
+        if (key->key() != Qt::Key_Return && key->key() != Qt::Key_Enter) {
+            return false;
+        }
+        const auto* const buttons = dialog_.findChild<QDialogButtonBox*>();
+        if ((key->modifiers() & Qt::ControlModifier) != 0 && buttons != nullptr) {
+            buttons->button(QDialogButtonBox::Ok)->click();
+        }
+        return true;
+    }
+
+private:
+    QDialog& dialog_;
+};
 
 } // namespace
 
@@ -75,6 +107,11 @@ void addRow(QFormLayout& form, const QString& label, std::initializer_list<QWidg
         row->addStretch(1);
     }
     form.addRow(text, row);
+}
+
+void keepEnterInside(QDialog& dialog)
+{
+    dialog.installEventFilter(new EnterFilter(dialog));
 }
 
 } // namespace kestrav::desktop

@@ -5,6 +5,7 @@
 
 #include <initializer_list>
 
+class QDialog;
 class QFormLayout;
 class QLabel;
 class QLineEdit;
@@ -26,5 +27,9 @@ void showNote(QLabel& note, QWidget& field, const QString& problem);
 /// Adds a row whose label belongs to the first widget. Others stand beside it and need their own
 /// accessible names.
 void addRow(QFormLayout& form, const QString& label, std::initializer_list<QWidget*> fields);
+
+/// Enter in a field ends the field and does not press OK; Ctrl+Enter does. For dialogs in which
+/// much is typed.
+void keepEnterInside(QDialog& dialog);
 
 } // namespace kestrav::desktop

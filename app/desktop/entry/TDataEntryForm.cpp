@@ -3,6 +3,7 @@
 #include "app/desktop/database/OpenDatabase.h"
 #include "app/desktop/entry/EntryPages.h"
 #include "app/desktop/entry/EventsTable.h"
+#include "app/desktop/entry/FormRows.h"
 #include "app/desktop/entry/PlaceFields.h"
 #include "app/desktop/shell/Convert.h"
 #include "app/desktop/shell/TMessages.h"
@@ -22,6 +23,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QTabWidget>
 #include <QTimer>
@@ -94,10 +96,7 @@ TDataEntryForm::TDataEntryForm(Workspace& workspace, QWidget* parent)
     auto* const box = new QVBoxLayout(this);
     box->addWidget(tabs_, 1);
     box->addLayout(bottom);
-    for (QAbstractButton* const button : buttons_->buttons()) {
-        // Enter in a field ends the field only; a form this large is not left by accident.
-        qobject_cast<QPushButton*>(button)->setAutoDefault(false);
-    }
+    keepEnterInside(*this);
 
     soon_->setSingleShot(true);
     soon_->setInterval(kPreviewPause);
@@ -112,6 +111,14 @@ TDataEntryForm::TDataEntryForm(Workspace& workspace, QWidget* parent)
         }
     });
     newChart();
+    // All of a page where the screen has room for it.
+    resize(sizeHint().boundedTo(screen()->availableSize()));
+}
+
+TDataEntryForm::~TDataEntryForm()
+{
+    // The focus moves once more while the fields go.
+    disconnect(qApp, nullptr, this, nullptr);
 }
 
 void TDataEntryForm::addPage(EntryPage* page, const QString& title)

@@ -32,6 +32,7 @@ class TDataEntryForm : public QDialog
 
 public:
     TDataEntryForm(Workspace& workspace, QWidget* parent);
+    ~TDataEntryForm() override;
 
     /// Begins an empty chart, an edit of a record, or goes on with a draft.
     void newChart();

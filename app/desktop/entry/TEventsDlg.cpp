@@ -2,6 +2,7 @@
 
 #include "app/desktop/database/OpenDatabase.h"
 #include "app/desktop/entry/EventsTable.h"
+#include "app/desktop/entry/FormRows.h"
 #include "app/desktop/shell/Convert.h"
 #include "app/desktop/shell/Workspace.h"
 #include "data/CleanText.h"
@@ -37,10 +38,7 @@ TEventsDlg::TEventsDlg(Workspace& workspace, QWidget* parent)
         buttons_->addButton(tr("&Sort by Date"), QDialogButtonBox::ActionRole);
     sort->setObjectName(QStringLiteral("SortButton"));
     connect(sort, &QPushButton::clicked, table_, &EventsTable::sortByDate);
-    for (QAbstractButton* const button : buttons_->buttons()) {
-        // Enter opens and closes the editors of the table.
-        qobject_cast<QPushButton*>(button)->setAutoDefault(false);
-    }
+    keepEnterInside(*this);
     auto* const box = new QVBoxLayout(this);
     box->addWidget(label);
     box->addWidget(table_, 1);

@@ -1,5 +1,6 @@
 #include "app/desktop/entry/TNowLocationDlg.h"
 
+#include "app/desktop/entry/FormRows.h"
 #include "app/desktop/entry/PlaceFields.h"
 #include "app/desktop/shell/Convert.h"
 #include "app/desktop/shell/Workspace.h"
@@ -41,10 +42,7 @@ TNowLocationDlg::TNowLocationDlg(Workspace& workspace, QWidget* parent)
     box->addWidget(zone_);
     box->addStretch(1);
     box->addWidget(buttons_);
-    for (QAbstractButton* const button : buttons_->buttons()) {
-        // Enter after the country looks the place up.
-        qobject_cast<QPushButton*>(button)->setAutoDefault(false);
-    }
+    keepEnterInside(*this);
     place_->setAnswering([](const data::Places& places, const data::Place& place) {
         return present::answerAtMoment(places, place, unixOfJulianDay(Workspace::now()));
     });

@@ -1,5 +1,6 @@
 #include "app/desktop/entry/TWorldMapForm.h"
 
+#include "app/desktop/entry/FormRows.h"
 #include "app/desktop/entry/WorldMapView.h"
 #include "app/desktop/shell/Convert.h"
 #include "app/present/PlaceNames.h"
@@ -73,11 +74,9 @@ TWorldMapForm::TWorldMapForm(PlacesPointer places, std::optional<present::GeoPla
     box->addWidget(chosen_);
     box->addWidget(buttons_);
 
-    QPushButton* const ok = buttons_->button(QDialogButtonBox::Ok);
-    ok->setEnabled(false);
-    // Enter in the field finds; it does not leave the form.
-    ok->setAutoDefault(false);
-    buttons_->button(QDialogButtonBox::Cancel)->setAutoDefault(false);
+    buttons_->button(QDialogButtonBox::Ok)->setEnabled(false);
+    // Enter in the field finds.
+    keepEnterInside(*this);
     connect(buttons_, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons_, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(find_, &QLineEdit::returnPressed, this, &TWorldMapForm::FindEditReturnPressed);

@@ -41,6 +41,9 @@ WorldMapView::WorldMapView(PlacesPointer places, QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::CrossCursor);
     setMouseTracking(true);
+    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
 }
 
 void WorldMapView::setMarks(std::vector<present::GeoPlace> marks)
@@ -65,6 +68,11 @@ QSize WorldMapView::sizeHint() const
 {
     const int high = fontMetrics().height() * 18;
     return {int(high * kAspect), high};
+}
+
+int WorldMapView::heightForWidth(int wide) const
+{
+    return int(wide / kAspect);
 }
 
 QSize WorldMapView::minimumSizeHint() const

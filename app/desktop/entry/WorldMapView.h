@@ -28,6 +28,7 @@ public:
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
+    [[nodiscard]] int heightForWidth(int wide) const override;
 
 signals:
     /// The place nearest to where the user clicked.
