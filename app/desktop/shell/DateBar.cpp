@@ -128,7 +128,7 @@ void DateBar::showMoment()
 {
     const ClockReading reading = readingOf(workspace_, workspace_.moment());
     const core::Settings& settings = workspace_.settings();
-    date_->setText(toQt(typedDate(reading.date, settings.monthFirst)));
+    date_->setText(toQt(typedDate(reading.date, settings)));
     time_->setText(
         toQt(present::clockSeconds(reading.date.localTime, settings.twelveHourClock)).trimmed());
     for (QLineEdit* const field : {date_, time_}) {
@@ -166,7 +166,7 @@ void DateBar::showProblem(const QString& text)
 // What can be missed makes room in a narrow window.
 void DateBar::fitFields()
 {
-    fitTo(*date_, QStringLiteral("00/00/-0000"));
+    fitTo(*date_, QStringLiteral("00/00/-00000"));
     fitTo(*time_, QStringLiteral("00:00:00 pm"));
     int needed = layout()->contentsMargins().left() + layout()->contentsMargins().right();
     for (const QWidget* const widget : findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
@@ -186,14 +186,14 @@ void DateBar::DateEditEditingFinished()
     if (!date_->isModified() && !time_->isModified()) {
         return;
     }
-    const auto date = readTypedDate(toWide(date_->text()), workspace_.settings().monthFirst);
+    const auto date = readTypedDate(toWide(date_->text()), workspace_.settings());
     if (!date) {
-        showProblem(tr("Not understood: %1").arg(toQt(date.error().message)));
+        showProblem(toQt(date.error().message));
         return;
     }
     const auto hours = data::readTimeText(toWide(time_->text().trimmed()));
     if (!hours) {
-        showProblem(tr("Not understood: write the time as hours:minutes:seconds"));
+        showProblem(tr("The time is written as hours:minutes:seconds."));
         return;
     }
     workspace_.setMoment(momentAt(workspace_, date.value(), *hours));
@@ -208,7 +208,7 @@ void DateBar::StepComboBoxActivated()
 void DateBar::SecondChartButtonClick()
 {
     // Another part of the program has the list of charts.
-    if (auto* const action = window()->findChild<QAction*>(QStringLiteral("CompareWithAction"))) {
+    if (auto* const action = window()->findChild<QAction*>(QStringLiteral("CompareAction"))) {
         action->trigger();
     } else {
         workspace_.tellProblem(tr("There is no chart to compare with."));
@@ -246,7 +246,7 @@ void DateBar::step(int direction)
     if (moment) {
         workspace_.setMoment(moment.value());
     } else {
-        workspace_.tellProblem(tr("No step: %1.").arg(toQt(moment.error().message)));
+        workspace_.tellProblem(asSentence(moment.error().message));
     }
 }
 

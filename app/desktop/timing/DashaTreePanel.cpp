@@ -15,14 +15,36 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QStyledItemDelegate>
 #include <QToolButton>
 #include <QTreeView>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace kestrav::desktop
 {
+
+namespace
+{
+
+// Rows as high as those of the tables, with some air between the columns.
+class RowDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
+                                 const QModelIndex& index) const override
+    {
+        const int line = option.fontMetrics.height();
+        const QSize size = QStyledItemDelegate::sizeHint(option, index);
+        return {size.width() + line, std::max(size.height(), line * 13 / 10)};
+    }
+};
+
+} // namespace
 
 DashaTreePanel::DashaTreePanel(Workspace& workspace, present::Panel panel, QWidget* parent)
     : PanelWidget(workspace, std::move(panel), parent), choice_(DashaChoice::of(workspace)),
@@ -57,6 +79,8 @@ DashaTreePanel::DashaTreePanel(Workspace& workspace, present::Panel panel, QWidg
     tree_->setAlternatingRowColors(true);
     tree_->setExpandsOnDoubleClick(false);
     tree_->setAllColumnsShowFocus(true);
+    tree_->setItemDelegate(new RowDelegate(tree_));
+    tree_->header()->setStretchLastSection(false);
     connect(tree_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &DashaTreePanel::chooseLord);
     connect(tree_, &QTreeView::activated, this, &DashaTreePanel::SetToStartActionExecute);
@@ -91,10 +115,7 @@ void DashaTreePanel::makeActions()
     };
     add(tr("Shared Date to &Start"), "SetToStartAction", &DashaTreePanel::SetToStartActionExecute);
     add(tr("Shared Date to &End"), "SetToEndAction", &DashaTreePanel::SetToEndActionExecute);
-    add(tr("Inspect the &Lord"), "SelectLordAction", [this] {
-        choose(present::dashaLordLink(model_->lordKind(),
-                                      model_->period(tree_->currentIndex()).lord()));
-    });
+    add(tr("Inspect the &Lord"), "SelectLordAction", &DashaTreePanel::SelectLordActionExecute);
     add(tr("&Copy"), "CopyPeriodsAction", &DashaTreePanel::copyRows);
     actions_.back()->setShortcut(QKeySequence::Copy);
     actions_.back()->setShortcutContext(Qt::WidgetWithChildrenShortcut);
@@ -208,8 +229,11 @@ void DashaTreePanel::chooseLord(const QModelIndex& index)
 // The selected period and what is open below it, as columns for spreadsheets.
 void DashaTreePanel::copyRows() const
 {
-    QString text;
     const QModelIndex first = tree_->currentIndex().siblingAtColumn(0);
+    if (!first.isValid()) {
+        return;
+    }
+    QString text;
     for (QModelIndex index = first; index.isValid(); index = tree_->indexBelow(index)) {
         if (index != first && model_->period(index).level <= model_->period(first).level) {
             break;
@@ -265,6 +289,14 @@ void DashaTreePanel::SetToStartActionExecute()
 {
     if (tree_->currentIndex().isValid()) {
         workspace().setMoment(model_->period(tree_->currentIndex()).startJulianDay);
+    }
+}
+
+void DashaTreePanel::SelectLordActionExecute()
+{
+    if (tree_->currentIndex().isValid()) {
+        const int lord = model_->period(tree_->currentIndex()).lord();
+        choose(present::dashaLordLink(model_->lordKind(), lord));
     }
 }
 

@@ -44,6 +44,7 @@ private:
     void MakeStandardButtonClick();
     void SetToStartActionExecute();
     void SetToEndActionExecute();
+    void SelectLordActionExecute();
 
     DashaChoice& choice_;
     QComboBox* system_;

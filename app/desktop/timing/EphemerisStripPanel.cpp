@@ -92,6 +92,7 @@ EphemerisStripPanel::EphemerisStripPanel(Workspace& workspace, present::Panel pa
     auto* const bar = new QHBoxLayout;
     const int gap = fontMetrics().height() / 3;
     bar->setContentsMargins(gap, gap, gap, gap);
+    bar->setSpacing(2 * gap);
     bar->addWidget(span_);
     bar->addWidget(natal_);
     bar->addStretch(1);

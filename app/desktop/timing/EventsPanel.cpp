@@ -100,7 +100,7 @@ std::vector<present::Block> EventsPanel::blocks()
 void EventsPanel::EditEventsButtonClick()
 {
     // The events are part of the data entry.
-    if (auto* const action = window()->findChild<QAction*>(QStringLiteral("EditEventsAction"))) {
+    if (auto* const action = window()->findChild<QAction*>(QStringLiteral("EventsAction"))) {
         action->trigger();
     } else {
         workspace().tellProblem(tr("Events are edited with the data of the chart."));

@@ -4,6 +4,7 @@
 
 #include "core/DateTime.h"
 #include "core/Result.h"
+#include "core/Settings.h"
 
 #include <QString>
 
@@ -35,15 +36,19 @@ struct ClockReading
 [[nodiscard]] double momentAt(const Workspace& workspace, const core::DateTimeRecord& date,
                               double hours);
 
-/// "15/01/2026", or "01/15/2026" where the month comes first. Years before Christ are negative.
-[[nodiscard]] std::wstring typedDate(const core::DateTimeRecord& date, bool monthFirst);
+/// The date as it is typed, in the order of the settings.
+[[nodiscard]] std::wstring typedDate(const core::DateTimeRecord& date,
+                                     const core::Settings& settings);
 
-/// Reads such a date, with any of "/.-" and blanks between its parts; "2026-01-15" too, whatever
-/// the order. The error says what is expected.
+/// Reads such a date, or "2026-01-15" whatever the order. The error says in a whole sentence what
+/// is wrong.
 [[nodiscard]] core::Result<core::DateTimeRecord> readTypedDate(std::wstring_view text,
-                                                               bool monthFirst);
+                                                               const core::Settings& settings);
 
 /// "2026-01-15 12:00:00, Thursday" on the clock of the shared date.
 [[nodiscard]] QString momentLine(const Workspace& workspace, double moment);
+
+/// An error's message as a sentence of its own.
+[[nodiscard]] QString asSentence(const std::string& message);
 
 } // namespace kestrav::desktop

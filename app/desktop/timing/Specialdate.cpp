@@ -121,7 +121,7 @@ void TSpecialDateDlg::makeDatePage()
 {
     const ClockReading reading = readingOf(workspace_, workspace_.moment());
     const core::Settings& settings = workspace_.settings();
-    date_ = new QLineEdit(toQt(typedDate(reading.date, settings.monthFirst)), this);
+    date_ = new QLineEdit(toQt(typedDate(reading.date, settings)), this);
     date_->setObjectName(QStringLiteral("DateEdit"));
     time_ = new QLineEdit(
         toQt(present::clockSeconds(reading.date.localTime, settings.twelveHourClock)).trimmed(),
@@ -242,13 +242,13 @@ void TSpecialDateDlg::disableWithoutBirth()
 
 TSpecialDateDlg::Found TSpecialDateDlg::typedMoment() const
 {
-    const auto date = readTypedDate(toWide(date_->text()), workspace_.settings().monthFirst);
+    const auto date = readTypedDate(toWide(date_->text()), workspace_.settings());
     if (!date) {
         return date.error();
     }
     const auto hours = data::readTimeText(toWide(time_->text().trimmed()));
     if (!hours) {
-        return core::Error{"write the time as hours:minutes:seconds"};
+        return core::Error{"The time is written as hours:minutes:seconds."};
     }
     return momentAt(workspace_, date.value(), *hours);
 }
@@ -321,7 +321,7 @@ void TSpecialDateDlg::showFound(const Found& found)
 {
     found_ = found ? std::optional(found.value()) : std::nullopt;
     result_->setText(found ? momentLine(workspace_, found.value())
-                           : tr("Not found: %1").arg(toQt(found.error().message)));
+                           : asSentence(found.error().message));
     buttons_->button(QDialogButtonBox::Ok)->setEnabled(found.ok());
 }
 

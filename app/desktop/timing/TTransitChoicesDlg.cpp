@@ -44,8 +44,8 @@ constexpr std::array<KindRow, 7> kKinds = {{
     {&TransitKinds::nakshatras, "NakshatrasCheckBox",
      QT_TRANSLATE_NOOP("Transits", "&Nakshatras entered")},
     {&TransitKinds::padas, "PadasCheckBox", QT_TRANSLATE_NOOP("Transits", "&Padas entered")},
-    {&TransitKinds::stations, "StationsCheckBox", QT_TRANSLATE_NOOP("Transits", "S&tations")},
-    {&TransitKinds::combustion, "CombustionCheckBox", QT_TRANSLATE_NOOP("Transits", "&Combustion")},
+    {&TransitKinds::stations, "StationsCheckBox", QT_TRANSLATE_NOOP("Transits", "Stat&ions")},
+    {&TransitKinds::combustion, "CombustionCheckBox", QT_TRANSLATE_NOOP("Transits", "Co&mbustion")},
 }};
 
 void addPoint(QListWidget& list, int point)
@@ -112,7 +112,7 @@ TTransitChoicesDlg::TTransitChoicesDlg(Workspace& workspace, QWidget* parent)
     layout->addWidget(problem_);
     layout->addWidget(buttons_);
 
-    show(TransitChoices::kept());
+    showChoices(TransitChoices::kept());
     connect(bodies_, &QListWidget::itemChanged, this, &TTransitChoicesDlg::showProblem);
     connect(targets_, &QListWidget::itemChanged, this, &TTransitChoicesDlg::showProblem);
     bodies_->setFocus();
@@ -189,13 +189,13 @@ QWidget* TTransitChoicesDlg::makeOthers()
     days_->setObjectName(QStringLiteral("DaysUpDown"));
     days_->setRange(1, kMostTransitDays);
     auto* const form = new QFormLayout(group);
-    form->addRow(tr("As&pects:"), aspects_);
-    form->addRow(tr("&Orb:"), orb_);
+    form->addRow(tr("&Which aspects:"), aspects_);
+    form->addRow(tr("Or&b:"), orb_);
     form->addRow(tr("Da&ys of the list:"), days_);
     return group;
 }
 
-void TTransitChoicesDlg::show(const TransitChoices& choices)
+void TTransitChoicesDlg::showChoices(const TransitChoices& choices)
 {
     const timing::TransitOptions& options = choices.options;
     mode_->setCurrentIndex(int(options.mode == timing::TransitMode::TransitToTransit));
@@ -254,7 +254,7 @@ void TTransitChoicesDlg::showProblem()
 
 void TTransitChoicesDlg::UsualButtonClick()
 {
-    show(TransitChoices::usual());
+    showChoices(TransitChoices::usual());
 }
 
 void TTransitChoicesDlg::OkButtonClick()

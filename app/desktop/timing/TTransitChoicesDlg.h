@@ -31,7 +31,7 @@ private:
     QWidget* makePoints();
     QWidget* makeKinds();
     QWidget* makeOthers();
-    void show(const TransitChoices& choices);
+    void showChoices(const TransitChoices& choices);
     void showProblem();
     void TargetsComboBoxChange();
     void UsualButtonClick();

@@ -1,20 +1,27 @@
 #include "app/desktop/timing/TrialTimesPanel.h"
 
+#include "app/desktop/database/OpenDatabase.h"
 #include "app/desktop/panels/TableExport.h"
+#include "app/desktop/panels/TableModel.h"
 #include "app/desktop/panels/TableView.h"
 #include "app/desktop/shell/Convert.h"
 #include "app/desktop/timing/WorkBar.h"
+#include "app/present/TypedDate.h"
+#include "core/DateTime.h"
+#include "data/BirthTexts.h"
 #include "timing/DashaTable.h"
 
 #include <QAction>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QSpinBox>
 #include <QTabWidget>
+#include <QToolButton>
 #include <QVBoxLayout>
 
-#include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace kestrav::desktop
@@ -26,14 +33,15 @@ namespace
 constexpr int kLargestStep = 600;
 constexpr int kMostSteps = 100;
 constexpr double kSecondsOfMinute = 60.0;
+constexpr double kSecondsOfHour = 3600.0;
 
 } // namespace
 
 TrialTimesPanel::TrialTimesPanel(Workspace& workspace, present::Panel panel, QWidget* parent)
     : PanelWidget(workspace, std::move(panel), parent), step_(new QSpinBox(this)),
       unit_(new QComboBox(this)), count_(new QSpinBox(this)), levels_(new QSpinBox(this)),
-      note_(new QLabel(this)), tabs_(new QTabWidget(this)), ascendants_(new TableView(this)),
-      lords_(new TableView(this))
+      takeOver_(new QToolButton(this)), note_(new QLabel(this)), tabs_(new QTabWidget(this)),
+      ascendants_(new TableView(this)), lords_(new TableView(this))
 {
     setObjectName(QStringLiteral("TrialTimesPanel"));
     note_->setObjectName(QStringLiteral("NoteLabel"));
@@ -101,6 +109,11 @@ QLayout* TrialTimesPanel::makeBar()
     bar->addSpacing(gap);
     labelled(tr("Dasha levels:"), levels_);
     bar->addStretch(1);
+    takeOver_->setObjectName(QStringLiteral("TakeOverButton"));
+    takeOver_->setText(tr("Take Over..."));
+    takeOver_->setToolTip(tr("Enters the chosen time into the data of the chart"));
+    connect(takeOver_, &QToolButton::clicked, this, &TrialTimesPanel::TakeOverButtonClick);
+    bar->addWidget(takeOver_);
     auto* const working = new WorkBar(work_, this);
     connect(working, &WorkBar::stopped, this,
             [this] { note_->setText(tr("Stopped before all times were tried.")); });
@@ -123,6 +136,7 @@ void TrialTimesPanel::refresh()
 {
     const ChartPointer shown = chart();
     tabs_->setVisible(shown != nullptr);
+    takeOver_->setEnabled(shown != nullptr && shown == workspace().chart());
     if (!shown) {
         work_.cancel();
         note_->setText(tr("No chart is open."));
@@ -166,6 +180,35 @@ std::vector<present::Block> TrialTimesPanel::blocks()
         blocks.emplace_back(lords_->table());
     }
     return blocks;
+}
+
+void TrialTimesPanel::TakeOverButtonClick()
+{
+    const TableView& view = tabs_->currentIndex() == 1 ? *lords_ : *ascendants_;
+    const auto* const model = static_cast<const TableModel*>(view.model());
+    const present::Cell* const shift = model->cell(view.currentIndex().siblingAtColumn(0));
+    auto* const edit = window()->findChild<QAction*>(QStringLiteral("EditChartAction"));
+    if (shift == nullptr || !shift->sortKey || edit == nullptr) {
+        return;
+    }
+    edit->trigger();
+    const auto* const form = window()->findChild<QWidget*>(QStringLiteral("TDataEntryForm"));
+    auto* const time =
+        form != nullptr ? form->findChild<QLineEdit*>(QStringLiteral("TimeEdit")) : nullptr;
+    auto* const date =
+        form != nullptr ? form->findChild<QLineEdit*>(QStringLiteral("DateEdit")) : nullptr;
+    if (time == nullptr || date == nullptr) {
+        return;
+    }
+    core::DateTimeRecord born = workspace().record().time;
+    const double hours = born.localTime + *shift->sortKey / kSecondsOfHour;
+    const double days = std::floor(hours / 24.0);
+    time->setText(toQt(data::timeText(hours - 24.0 * days)));
+    if (days != 0.0) {
+        core::addDays(born, int(days));
+        date->setText(toQt(present::typedDate({born.year, born.month, born.day},
+                                              workspace().database().charts().order())));
+    }
 }
 
 void TrialTimesPanel::saveTable()

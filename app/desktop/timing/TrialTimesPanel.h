@@ -9,6 +9,7 @@ class QComboBox;
 class QLabel;
 class QSpinBox;
 class QTabWidget;
+class QToolButton;
 
 namespace kestrav::desktop
 {
@@ -35,11 +36,14 @@ private:
     QLayout* makeBar();
     void showTables(const present::TrialTables& tables);
     void saveTable();
+    /// The data entry with the time of the chosen row typed into it, to be confirmed there.
+    void TakeOverButtonClick();
 
     QSpinBox* step_;
     QComboBox* unit_;
     QSpinBox* count_;
     QSpinBox* levels_;
+    QToolButton* takeOver_;
     QLabel* note_;
     QTabWidget* tabs_;
     TableView* ascendants_;
