@@ -89,4 +89,16 @@ Table ruleTable(const std::vector<RuleLine>& lines, std::wstring title)
     return table;
 }
 
+Table reasonTable(const std::vector<RuleLine>& lines, std::wstring title)
+{
+    Table table = {"reasons", title, {{title, Align::Wrapped}}};
+    for (const RuleLine& line : lines) {
+        if (line.kind == yoga::TokenKind::Condition) {
+            table.add(
+                {truthText(line.truth) + L": " + (line.reason.empty() ? line.words : line.reason)});
+        }
+    }
+    return table;
+}
+
 } // namespace kestrav::present

@@ -43,4 +43,7 @@ struct RuleLine
 /// The lines as a table: rule, truth, reason.
 [[nodiscard]] Table ruleTable(const std::vector<RuleLine>& lines, std::wstring title);
 
+/// What became of the conditions alone, in one column under the title.
+[[nodiscard]] Table reasonTable(const std::vector<RuleLine>& lines, std::wstring title);
+
 } // namespace kestrav::present

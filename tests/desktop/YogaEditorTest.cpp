@@ -22,6 +22,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QSpinBox>
+#include <QTableWidget>
 #include <QTimer>
 #include <QToolButton>
 #include <QTreeView>
@@ -183,15 +184,15 @@ TEST_F(YogaEditorTest, BuildsARuleSavesItAndReadsItAgain)
     subject.setChart(workspace().chart()->chart);
     const auto read = yoga::YogaRule::read(built);
     const yoga::RuleOutcome outcome = yoga::explainRule(read.value(), subject);
-    auto* const list = find<QTreeWidget>("RuleList", form_);
-    ASSERT_EQ(list->topLevelItemCount(), 6);
+    auto* const list = find<QTableWidget>("RuleList", form_);
+    ASSERT_EQ(list->rowCount(), 6);
     std::size_t condition = 0;
     for (const int row : {1, 3, 5}) {
         const yoga::ConditionOutcome& one = outcome.conditions[condition++];
-        EXPECT_EQ(list->topLevelItem(row)->text(1), !one.tested ? "? not tested"
-                                                    : one.truth ? "\u2713 holds"
-                                                                : "\u2717 does not hold");
-        EXPECT_EQ(list->topLevelItem(row)->text(2), toQt(one.reason));
+        EXPECT_EQ(list->item(row, 1)->text(), !one.tested ? "? not tested"
+                                              : one.truth ? "\u2713 holds"
+                                                          : "\u2717 does not hold");
+        EXPECT_EQ(list->item(row, 2)->text(), toQt(one.reason));
     }
     EXPECT_TRUE(
         find<QLabel>("HoldsLabel", form_)
@@ -246,12 +247,14 @@ TEST_F(YogaEditorTest, AsksBeforeItDeletesAndKeepsToWhatCanBeUndone)
     EXPECT_EQ(shown[2].caption, "Query");
     EXPECT_EQ(shown[2].text, "Delete Yoga from List?");
 
-    // Leaving asks about what was not saved; Cancel stays, No leaves.
+    // Leaving asks about what was not saved; Cancel stays, Yes saves.
+    TMessages messages;
     TMessages::prepare(core::Answer::Cancel);
-    EXPECT_FALSE(window().close());
+    EXPECT_FALSE(desk().mayClose(messages));
     TMessages::prepare(core::Answer::Yes);
-    EXPECT_TRUE(window().close());
+    EXPECT_TRUE(desk().mayClose(messages));
     EXPECT_TRUE(std::filesystem::exists(ownYogaPath()));
+    EXPECT_FALSE(desk().anyModified());
     EXPECT_EQ(TMessages::takeShown().size(), 2U);
 }
 

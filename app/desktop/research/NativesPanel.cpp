@@ -14,6 +14,7 @@
 
 #include <QAction>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QLabel>
 #include <QSplitter>
@@ -51,11 +52,14 @@ NativesPanel::NativesPanel(Workspace& workspace, present::Panel panel, QWidget* 
     setObjectName(QStringLiteral("NativesPanel"));
     note_->setObjectName(QStringLiteral("NativesLabel"));
     note_->setWordWrap(true);
+    note_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     natives_->setObjectName(QStringLiteral("NativesView"));
     natives_->setSelectionMode(QAbstractItemView::SingleSelection);
     reasons_->setObjectName(QStringLiteral("ReasonsView"));
     reasons_->setAccessibleName(tr("Reasons for the selected native"));
     reasons_->setWordWrap(true);
+    connect(reasons_->horizontalHeader(), &QHeaderView::sectionResized, reasons_,
+            &QTableView::resizeRowsToContents);
 
     auto* const search = new QAction(tr("&Search Selected Yoga"), this);
     connect(search, &QAction::triggered, this, [this] {
@@ -180,10 +184,14 @@ void NativesPanel::explainSelected()
     explaining_.start(
         [searched, line = *line](const WorkHandle& /*handle*/) {
             const yoga::RuleOutcome outcome = searched->search().explain(line);
-            return present::ruleTable(present::ruleLines(searched->text, &outcome),
-                                      data::nameOfLine(searched->research->charts.line(line)));
+            return present::reasonTable(present::ruleLines(searched->text, &outcome),
+                                        data::nameOfLine(searched->research->charts.line(line)));
         },
-        [this](const present::Table& reasons) { reasons_->setTable(reasons); });
+        [this](const present::Table& reasons) {
+            reasons_->setTable(reasons);
+            reasons_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+            reasons_->resizeRowsToContents();
+        });
 }
 
 void NativesPanel::openSelected()

@@ -110,6 +110,7 @@ ResearchPanel::ResearchPanel(Workspace& workspace, present::Panel panel, QWidget
     table_->setSelectionMode(QAbstractItemView::ExtendedSelection);
     note_->setObjectName(QStringLiteral("ResearchLabel"));
     note_->setWordWrap(true);
+    note_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     auto* const scroll = new QScrollArea(this);
     scroll->setObjectName(QStringLiteral("GraphArea"));
     scroll->setWidgetResizable(true);
@@ -132,6 +133,7 @@ ResearchPanel::ResearchPanel(Workspace& workspace, present::Panel panel, QWidget
     actions_ = {columnsAction_, openAction_, refreshAction, copy, save};
     columnsButton_->setObjectName(QStringLiteral("ColumnsButton"));
     columnsButton_->setDefaultAction(columnsAction_);
+    columnsButton_->setText(tr("Columns..."));
     refreshButton_->setObjectName(QStringLiteral("RefreshButton"));
     refreshButton_->setDefaultAction(refreshAction);
     refreshButton_->setText(tr("Refresh"));
@@ -339,7 +341,7 @@ void ResearchPanel::show(Made made)
     table_->setAccessibleName(title() + QStringLiteral(": ") + toQt(made.table.title));
     chart_->setModel(std::move(made.bars));
     stack_->setCurrentIndex(shows() == Graph ? 1 : 0);
-    stack_->setVisible(!made.table.columns.empty());
+    stack_->setVisible(!made.table.rows.empty());
     count_->setText(shows() == Charts ? toQt(made.table.title) : QString());
     showNote();
 }

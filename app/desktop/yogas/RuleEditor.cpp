@@ -12,10 +12,12 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QTableWidget>
+#include <QTimer>
 #include <QToolBar>
-#include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include <array>
 #include <utility>
 
 namespace kestrav::desktop
@@ -42,23 +44,12 @@ QColor colourOfTruth(present::LiveTruth truth)
 
 RuleEditor::RuleEditor(Workspace& workspace, QWidget* parent)
     : QWidget(parent), workspace_(workspace), bar_(new QToolBar(this)),
-      list_(new QTreeWidget(this)), text_(new QLineEdit(this)), problems_(new QLabel(this))
+      list_(new QTableWidget(0, 3, this)), text_(new QLineEdit(this)), problems_(new QLabel(this))
 {
     setObjectName(QStringLiteral("RuleEditor"));
     bar_->setObjectName(QStringLiteral("RuleToolBar"));
     bar_->setAccessibleName(tr("Commands on the rule"));
-    list_->setObjectName(QStringLiteral("RuleList"));
-    list_->setAccessibleName(tr("Rule"));
-    list_->setRootIsDecorated(false);
-    list_->setAllColumnsShowFocus(true);
-    list_->setWordWrap(true);
-    list_->setAlternatingRowColors(true);
-    list_->setHeaderLabels({tr("Rule"), tr("Holds"), tr("Why")});
-    list_->header()->setSectionsMovable(false);
-    list_->header()->setStretchLastSection(false);
-    list_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
-    list_->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
-    list_->header()->setSectionResizeMode(2, QHeaderView::Stretch);
+    makeList();
     text_->setObjectName(QStringLiteral("RuleTextEdit"));
     text_->setAccessibleName(tr("The rule as text"));
     text_->setPlaceholderText(tr("The rule as text"));
@@ -73,16 +64,42 @@ RuleEditor::RuleEditor(Workspace& workspace, QWidget* parent)
     box->addWidget(text_);
     box->addWidget(problems_);
     setFocusProxy(list_);
-    connect(list_, &QTreeWidget::currentItemChanged, this, [this] {
+    connect(text_, &QLineEdit::editingFinished, this, &RuleEditor::RuleEditEditingFinished);
+    enableActions();
+}
+
+void RuleEditor::makeList()
+{
+    list_->setObjectName(QStringLiteral("RuleList"));
+    list_->setAccessibleName(tr("Rule"));
+    list_->setHorizontalHeaderLabels({tr("Rule"), tr("Holds"), tr("Why")});
+    list_->verticalHeader()->hide();
+    list_->setShowGrid(false);
+    list_->setWordWrap(true);
+    list_->setAlternatingRowColors(true);
+    list_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    list_->setSelectionBehavior(QAbstractItemView::SelectRows);
+    list_->setSelectionMode(QAbstractItemView::SingleSelection);
+    list_->setTabKeyNavigation(false);
+    list_->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    QHeaderView* const header = list_->horizontalHeader();
+    header->setHighlightSections(false);
+    header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    header->setSectionResizeMode(0, QHeaderView::Stretch);
+    header->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+    header->setSectionResizeMode(2, QHeaderView::Stretch);
+    // Sentences are broken between words, so that the heights of rows follow from the widths.
+    auto* const fitRows = new QTimer(this);
+    fitRows->setSingleShot(true);
+    connect(fitRows, &QTimer::timeout, list_, &QTableWidget::resizeRowsToContents);
+    connect(header, &QHeaderView::sectionResized, fitRows, [fitRows] { fitRows->start(0); });
+    connect(list_, &QTableWidget::currentCellChanged, this, [this](int row) {
         if (!filling_) {
-            const int row = list_->indexOfTopLevelItem(list_->currentItem());
             edit_.select(row < 0 ? std::nullopt : std::optional(std::size_t(row)));
             enableActions();
         }
     });
-    connect(list_, &QTreeWidget::itemActivated, this, &RuleEditor::EditConditionButtonClick);
-    connect(text_, &QLineEdit::editingFinished, this, &RuleEditor::RuleEditEditingFinished);
-    enableActions();
+    connect(list_, &QTableWidget::cellActivated, this, &RuleEditor::EditConditionButtonClick);
 }
 
 void RuleEditor::makeActions()
@@ -93,6 +110,8 @@ void RuleEditor::makeActions()
         made->setObjectName(QLatin1String(name));
         made->setToolTip(tip);
         made->setStatusTip(tip);
+        // Buttons would leave the dots out.
+        made->setIconText(QString(text).remove(QLatin1Char('&')));
         connect(made, &QAction::triggered, this, handler);
         actions_ += made;
         bar_->addAction(made);
@@ -150,29 +169,25 @@ void RuleEditor::fill()
 {
     filling_ = true;
     const std::vector<present::RuleLine> shown = lines();
-    while (list_->topLevelItemCount() > int(shown.size())) {
-        delete list_->takeTopLevelItem(list_->topLevelItemCount() - 1);
-    }
+    list_->setRowCount(int(shown.size()));
     for (std::size_t i = 0; i < shown.size(); ++i) {
-        if (int(i) >= list_->topLevelItemCount()) {
-            new QTreeWidgetItem(list_);
-        }
-        QTreeWidgetItem* const item = list_->topLevelItem(int(i));
         const present::RuleLine& line = shown[i];
         const QString words = toQt(line.words);
         const QString truth = toQt(present::truthText(line.truth));
-        item->setText(0, QString(line.depth * kIndent, QChar(0x00A0)) + words);
-        item->setText(1, truth);
-        item->setText(2, toQt(line.reason));
+        const std::array<QString, 3> texts = {QString(line.depth * kIndent, QChar(0x00A0)) + words,
+                                              truth, toQt(line.reason)};
         for (int column = 0; column < 3; ++column) {
-            item->setTextAlignment(column, Qt::AlignLeft | Qt::AlignTop);
-            item->setToolTip(column, column == 0 ? toQt(edit_.tokens()[i]) : item->text(column));
+            auto* const item = new QTableWidgetItem(texts[std::size_t(column)]);
+            item->setTextAlignment(Qt::AlignLeft | Qt::AlignTop);
+            item->setToolTip(column == 0 ? toQt(edit_.tokens()[i]) : item->text());
+            list_->setItem(int(i), column, item);
         }
-        item->setData(0, Qt::AccessibleTextRole,
-                      truth.isEmpty() ? words : words + QStringLiteral(", ") + truth);
-        item->setForeground(1, colourOfTruth(line.truth));
+        list_->item(int(i), 0)->setData(
+            Qt::AccessibleTextRole, truth.isEmpty() ? words : words + QStringLiteral(", ") + truth);
+        list_->item(int(i), 1)->setForeground(colourOfTruth(line.truth));
     }
-    list_->setCurrentItem(edit_.selected() ? list_->topLevelItem(int(*edit_.selected())) : nullptr);
+    list_->resizeRowsToContents();
+    list_->setCurrentCell(edit_.selected() ? int(*edit_.selected()) : -1, 0);
     const QString rule = toQt(core::fromFileBytes(edit_.rule()));
     if (text_->text() != rule) {
         text_->setText(rule);
@@ -318,7 +333,7 @@ void RuleEditor::RuleEditEditingFinished()
 void RuleEditor::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange && list_ != nullptr && list_->topLevelItemCount()) {
+    if (event->type() == QEvent::PaletteChange && list_ != nullptr && list_->rowCount() > 0) {
         fill();
     }
 }

@@ -14,8 +14,8 @@
 class QAction;
 class QLabel;
 class QLineEdit;
+class QTableWidget;
 class QToolBar;
-class QTreeWidget;
 
 namespace kestrav::desktop
 {
@@ -67,6 +67,7 @@ private:
     void RuleEditEditingFinished();
     void add(const QString& what, core::Result<void> (yoga::RuleEdit::*command)());
     void edited(const QString& what);
+    void makeList();
     void fill();
     void enableActions();
 
@@ -77,7 +78,7 @@ private:
     bool editable_ = false;
     bool filling_ = false;
     QToolBar* bar_;
-    QTreeWidget* list_;
+    QTableWidget* list_;
     QLineEdit* text_;
     QLabel* problems_;
     QList<QAction*> actions_;

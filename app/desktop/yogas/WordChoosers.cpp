@@ -48,9 +48,12 @@ void addChoice(QComboBox& box, const present::ChoiceWord& choice)
     box.addItem(QStringLiteral("%1 \u2013 %2").arg(word, toQt(choice.meaning)), word);
 }
 
-bool isSetWord(const QString& word)
+// Whether a quantifier can stand before the word.
+bool isPlainSet(const QString& word)
 {
-    return yoga::wordClass(yoga::keywordCode(toUtf8(word))) == yoga::WordClass::Set;
+    const int code = yoga::keywordCode(toUtf8(word));
+    return yoga::wordClass(code) == yoga::WordClass::Set &&
+           yoga::setWord(code).quantifier == yoga::Quantifier::None;
 }
 
 int columnsFor(std::size_t count, bool wide)
@@ -138,8 +141,7 @@ PointChooser::PointChooser(const yoga::Parameter& parameter, QWidget* parent)
 
 void PointChooser::enableQuantifier()
 {
-    quantifier_->setVisible(takesQuantifier_ &&
-                            isSetWord(QString::fromStdString("any.") + word_->currentText()));
+    quantifier_->setVisible(takesQuantifier_ && isPlainSet(typed()));
 }
 
 void PointChooser::addStep(const QString& step)
@@ -147,12 +149,16 @@ void PointChooser::addStep(const QString& step)
     word_->setEditText(step + word_->currentText());
 }
 
+// A completed entry still shows its meaning.
+QString PointChooser::typed() const
+{
+    return word_->currentText().section(QStringLiteral(" \u2013 "), 0, 0).trimmed();
+}
+
 std::string PointChooser::words() const
 {
-    QString text = word_->currentText().trimmed();
-    // A completed entry still shows its meaning.
-    text = text.section(QStringLiteral(" \u2013 "), 0, 0);
-    if (!text.isEmpty() && takesQuantifier_ && isSetWord(QStringLiteral("any.") + text)) {
+    QString text = typed();
+    if (takesQuantifier_ && isPlainSet(text)) {
         text.prepend(quantifier_->currentData().toString());
     }
     return toUtf8(text);
@@ -161,14 +167,12 @@ std::string PointChooser::words() const
 void PointChooser::setWords(const std::string& words)
 {
     QString text = toQt(words);
-    if (takesQuantifier_) {
-        for (int i = 0; i < quantifier_->count(); ++i) {
-            const QString before = quantifier_->itemData(i).toString();
-            if (text.startsWith(before)) {
-                quantifier_->setCurrentIndex(i);
-                text.remove(0, before.size());
-                break;
-            }
+    for (int i = 0; takesQuantifier_ && i < quantifier_->count(); ++i) {
+        const QString before = quantifier_->itemData(i).toString();
+        if (text.startsWith(before) && isPlainSet(text.mid(before.size()))) {
+            quantifier_->setCurrentIndex(i);
+            text.remove(0, before.size());
+            break;
         }
     }
     word_->setEditText(text);

@@ -43,6 +43,7 @@ public:
     void setWords(const std::string& words) override;
 
 private:
+    [[nodiscard]] QString typed() const;
     void enableQuantifier();
     void addStep(const QString& step);
 

@@ -1,6 +1,8 @@
 #include "app/desktop/yogas/YogaActions.h"
 
+#include "app/desktop/database/ResearchActions.h"
 #include "app/desktop/pages/PageStrip.h"
+#include "app/desktop/research/ResearchDesk.h"
 #include "app/desktop/shell/Ks6main.h"
 #include "app/desktop/shell/TMessages.h"
 #include "app/desktop/yogas/YogaCommands.h"
@@ -49,6 +51,10 @@ YogaActions::YogaActions(TKSVform1& window)
         [this] { commands_->ImportButtonClick(); });
     add({"SortYogasAction", tr("So&rt File"), {}, tr("Sorts the file of the selected yoga")},
         [this] { commands_->SortButtonClick(); });
+    if (auto* const refreshing = window.findChild<ResearchActions*>()) {
+        connect(refreshing, &ResearchActions::refreshed, this,
+                [this] { ResearchDesk::of(window_.workspace()).read(); });
+    }
     window.addCloseQuestion([this] {
         TMessages messages;
         return YogaDesk::of(window_.workspace()).mayClose(messages);

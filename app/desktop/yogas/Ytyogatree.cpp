@@ -97,9 +97,9 @@ TYogaTreeForm::TYogaTreeForm(Workspace& workspace, present::Panel panel, QWidget
 {
     setObjectName(QStringLiteral("TYogaTreeForm"));
     setAcceptDrops(true);
-    auto* const parts = new QSplitter(this);
-    parts->setObjectName(QStringLiteral("YogaSplitter"));
-    parts->addWidget(makeTreeSide());
+    parts_ = new QSplitter(this);
+    parts_->setObjectName(QStringLiteral("YogaSplitter"));
+    parts_->addWidget(makeTreeSide());
     auto* const place = new QWidget(this);
     auto* const placeBox = new QVBoxLayout(place);
     placeBox->setContentsMargins({});
@@ -108,14 +108,14 @@ TYogaTreeForm::TYogaTreeForm(Workspace& workspace, present::Panel panel, QWidget
     none_->setWordWrap(true);
     placeBox->addWidget(none_, 1);
     placeBox->addWidget(yogaSide_, 1);
-    parts->addWidget(place);
-    parts->setStretchFactor(0, 2);
-    parts->setStretchFactor(1, 3);
-    parts->setChildrenCollapsible(false);
+    parts_->addWidget(place);
+    parts_->setStretchFactor(0, 2);
+    parts_->setStretchFactor(1, 3);
+    parts_->setChildrenCollapsible(false);
     auto* const box = new QHBoxLayout(this);
     const int gap = fontMetrics().height() / 3;
     box->setContentsMargins(gap, gap, gap, gap);
-    box->addWidget(parts);
+    box->addWidget(parts_);
     makeActions();
     setFocusProxy(tree_);
     dependOn(OnChart | OnSecond | OnMoment | OnYogas);
@@ -369,7 +369,22 @@ void TYogaTreeForm::evaluate()
             truths_ = std::move(truths);
             shownLibrary_ = library;
             fillTree();
+            selectFirst();
         });
+}
+
+// The first yoga that holds, so that the form has something to show.
+void TYogaTreeForm::selectFirst()
+{
+    if (desk_.selected() || shownLibrary_ != workspace().yogas()) {
+        return;
+    }
+    for (const yoga::YogaPlace& place : shownLibrary_->all()) {
+        if (present::holdsIn(truths_, place)) {
+            desk_.select(place);
+            return;
+        }
+    }
 }
 
 void TYogaTreeForm::fillTree()
@@ -566,6 +581,17 @@ void TYogaTreeForm::keyPressEvent(QKeyEvent* event)
         close();
     } else {
         PanelWidget::keyPressEvent(event);
+    }
+}
+
+// Tree and rule stand side by side where both have room, else below each other.
+void TYogaTreeForm::resizeEvent(QResizeEvent* event)
+{
+    PanelWidget::resizeEvent(event);
+    const Qt::Orientation wanted =
+        width() < fontMetrics().height() * 50 ? Qt::Vertical : Qt::Horizontal;
+    if (parts_->orientation() != wanted) {
+        parts_->setOrientation(wanted);
     }
 }
 

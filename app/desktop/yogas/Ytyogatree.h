@@ -51,6 +51,7 @@ protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
@@ -65,6 +66,7 @@ private:
     void evaluate();
     void fillTree();
     void showSelectedInTree();
+    void selectFirst();
     void showYoga();
     void explain();
     void commit();
@@ -97,6 +99,7 @@ private:
     QPlainTextEdit* interpretation_;
     QPlainTextEdit* comment_;
     QWidget* yogaSide_;
+    QSplitter* parts_;
     QLabel* none_;
     QList<QAction*> actions_;
     QAction* save_ = nullptr;
