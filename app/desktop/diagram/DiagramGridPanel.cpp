@@ -24,41 +24,35 @@ namespace
 
 constexpr double kPrintedSize = 170.0;
 constexpr std::size_t kPrintedInRow = 3;
-// The large diagram takes at least and at most these shares of the longer side.
-constexpr double kLeastShare = 0.25;
-constexpr double kMostShare = 0.55;
-constexpr double kShareStep = 0.025;
+// The large diagram takes a square of so many cells of the grid on each side.
+constexpr int kLeastSpan = 2;
+constexpr int kMostSpan = 4;
 // How much an area of the large diagram counts against one of the small ones.
-constexpr double kWorthOfLarge = 2.0;
+constexpr double kWorthOfLarge = 0.5;
 
 struct Arrangement
 {
-    bool beside = true; ///< the large one left of the small ones; else above
-    int columns = 1;
-    double large = 0.0; ///< its side
-    double small = 0.0;
-    double worth = -1.0;
+    int span = 0; ///< cells along the large diagram; 0 when nothing fits
+    int rows = 0;
+    int columns = 0;
+    double side = 0.0; ///< of a small diagram
 };
 
-// `words` is the height of a title.
+// `words` is the height of a title. The small diagrams fill the grid around the large one.
 Arrangement bestArrangement(QSizeF room, int count, double words, double gap)
 {
     Arrangement best;
-    for (const bool beside : {true, false}) {
-        const double longer = beside ? room.width() : room.height();
-        for (double share = kLeastShare; share <= kMostShare; share += kShareStep) {
-            const double large =
-                std::min({share * longer, room.width(), room.height() - words * 3.0});
-            const QSizeF rest = beside ? QSizeF(room.width() - large - gap, room.height())
-                                       : QSizeF(room.width(), room.height() - large - 3.0 * words);
-            for (int columns = 1; columns <= count; ++columns) {
-                const int rows = (count + columns - 1) / columns;
-                const double small = std::min((rest.width() - (columns - 1) * gap) / columns,
-                                              (rest.height() - (rows - 1) * gap) / rows - words);
-                const double worth = kWorthOfLarge * large * large + count * small * small;
-                if (small > 0.0 && large > small && worth > best.worth) {
-                    best = {beside, columns, large, small, worth};
-                }
+    double most = 0.0;
+    for (int span = kLeastSpan; span <= kMostSpan; ++span) {
+        const int cells = count + span * span;
+        for (int columns = span; columns <= cells; ++columns) {
+            const int rows = std::max(span, (cells + columns - 1) / columns);
+            const double side = std::min((room.width() - (columns - 1) * gap) / columns,
+                                         (room.height() - (rows - 1) * gap) / rows - words);
+            const double worth = side * side * (count + kWorthOfLarge * span * span);
+            if (side > 0.0 && worth > most) {
+                most = worth;
+                best = {span, rows, columns, side};
             }
         }
     }
@@ -157,34 +151,22 @@ void DiagramGridPanel::arrange()
     const double words = tiles_.front()->heightOfWords();
     const QRectF room = QRectF(rect()).adjusted(gap, gap / 2.0, -gap, -gap / 2.0);
     const Arrangement best = bestArrangement(room.size(), int(tiles_.size()), words, gap);
-    if (best.worth < 0.0) {
+    if (best.span == 0) {
         return;
     }
-    const int rows = (int(tiles_.size()) + best.columns - 1) / best.columns;
-    const double gridWidth = best.columns * (best.small + gap) - gap;
-    const double gridHeight = rows * (best.small + words + gap) - gap;
-    const double largeHeight = best.large + large_->heightOfWords();
-    double left = room.left();
-    double top = room.top();
-    if (best.beside) {
-        const double spare = (room.width() - best.large - gap - gridWidth) / 2.0;
-        left += std::max(0.0, spare);
-        large_->setGeometry(rounded(left, top + std::max(0.0, (room.height() - largeHeight) / 2.0),
-                                    best.large, largeHeight));
-        left += best.large + gap;
-        top += std::max(0.0, (room.height() - gridHeight) / 2.0);
-    } else {
-        large_->setGeometry(
-            rounded(left + (room.width() - best.large) / 2.0, top, best.large, largeHeight));
-        top += largeHeight;
-        left += std::max(0.0, (room.width() - gridWidth) / 2.0);
-    }
-    for (std::size_t i = 0; i < tiles_.size(); ++i) {
-        const int row = int(i) / best.columns;
-        const int column = int(i) % best.columns;
-        tiles_[i]->setGeometry(rounded(left + column * (best.small + gap),
-                                       top + row * (best.small + words + gap), best.small,
-                                       best.small + words));
+    const double across = best.side + gap;
+    const double down = best.side + words + gap;
+    const double left = room.left() + (room.width() - (best.columns * across - gap)) / 2.0;
+    const double top = room.top() + (room.height() - (best.rows * down - gap)) / 2.0;
+    large_->setGeometry(rounded(left, top, best.span * across - gap, best.span * down - gap));
+    std::size_t tile = 0;
+    for (int cell = 0; cell < best.rows * best.columns && tile < tiles_.size(); ++cell) {
+        const int row = cell / best.columns;
+        const int column = cell % best.columns;
+        if (row >= best.span || column >= best.span) {
+            tiles_[tile++]->setGeometry(
+                rounded(left + column * across, top + row * down, best.side, best.side + words));
+        }
     }
 }
 
@@ -218,7 +200,7 @@ void VargaGridPanel::refresh()
             near += toQt(present::pointLabel(point));
         }
     }
-    large_->setWords(toQt(present::vargaHeading(panel_.varga)), {},
+    large_->setWords(toQt(present::vargaHeading(panel_.varga)), vargaTitle(panel_.varga), {},
                      near.isEmpty()
                          ? QString()
                          : tr("~ near a boundary: %1").arg(near.join(QLatin1String(", "))));
@@ -231,7 +213,8 @@ void VargaGridPanel::refresh()
         contents.varga = varga;
         const QString name = vargaTitle(varga);
         const QString division = QStringLiteral("D-%1").arg(analysis::vargaDivision(varga));
-        tile.setWords(division + QLatin1Char(' ') + name, toQt(present::vargaHeading(varga)));
+        tile.setWords(division + QLatin1Char(' ') + name, division,
+                      toQt(present::vargaHeading(varga)));
         tile.setChosen(varga == panel_.varga);
         tile.view()->setContents(contents);
     }
@@ -268,21 +251,22 @@ void BinduGridPanel::refresh()
         table = analysis::computeAshtakavarga(shown->chart, panel_.varga, false);
     }
     const auto titled = [](const QString& name, const analysis::SignRow12& row) {
-        return tr("%1, %2 bindus").arg(name).arg(std::accumulate(row.begin(), row.end(), 0));
+        return tr("%1: %2").arg(name).arg(std::accumulate(row.begin(), row.end(), 0));
     };
     large_->setWords(
         receiver_ == present::BinduChoice::kSarva
             ? titled(tr("Sarvashtakavarga"), table.sarva)
             : titled(toQt(present::pointLabel(receiver_)), core::at(table.bindus, receiver_)),
-        {});
+        {}, {});
     contents.small = true;
     contents.options.points.reset();
     contents.options.arudhas = false;
     for (int receiver = 0; receiver < int(tiles_.size()); ++receiver) {
         contents.options.bindus = present::BinduChoice{receiver};
         const QString name = toQt(present::pointLabel(receiver));
-        tiles_[std::size_t(receiver)]->setWords(titled(name, core::at(table.bindus, receiver)),
-                                                name);
+        tiles_[std::size_t(receiver)]->setWords(
+            titled(name, core::at(table.bindus, receiver)),
+            titled(name.left(2), core::at(table.bindus, receiver)), name);
         tiles_[std::size_t(receiver)]->setChosen(receiver == receiver_);
         tiles_[std::size_t(receiver)]->view()->setContents(contents);
     }

@@ -12,8 +12,8 @@ namespace kestrav::desktop
 class DiagramTile;
 class DiagramView;
 
-/// Fills its room with the large diagram beside or above the small ones, whichever leaves more
-/// room for all.
+/// A grid of small diagrams fills the room, with the large one over a square of cells at its
+/// beginning.
 class DiagramGridPanel : public PanelWidget
 {
     Q_OBJECT

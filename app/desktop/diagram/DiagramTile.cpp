@@ -30,9 +30,11 @@ DiagramTile::DiagramTile(QWidget* parent)
     layout->addWidget(note_);
 }
 
-void DiagramTile::setWords(const QString& title, const QString& tip, const QString& note)
+void DiagramTile::setWords(const QString& title, const QString& brief, const QString& tip,
+                           const QString& note)
 {
     words_ = title;
+    brief_ = brief;
     title_->setToolTip(tip);
     note_->setText(note);
     note_->setVisible(!note.isEmpty());
@@ -57,7 +59,10 @@ int DiagramTile::heightOfWords() const
 
 void DiagramTile::elide()
 {
-    title_->setText(title_->fontMetrics().elidedText(words_, Qt::ElideRight, width()));
+    const bool fits =
+        brief_.isEmpty() || title_->fontMetrics().horizontalAdvance(words_) <= width();
+    title_->setText(
+        title_->fontMetrics().elidedText(fits ? words_ : brief_, Qt::ElideRight, width()));
 }
 
 void DiagramTile::resizeEvent(QResizeEvent* event)

@@ -21,8 +21,10 @@ public:
     {
         return view_;
     }
-    /// `note` stands below the diagram where it is not empty.
-    void setWords(const QString& title, const QString& tip, const QString& note = {});
+    /// The brief title stands where the other is too long, `note` below the diagram where it is not
+    /// empty.
+    void setWords(const QString& title, const QString& brief, const QString& tip,
+                  const QString& note = {});
     /// Shown in the large diagram.
     void setChosen(bool chosen);
     /// What title and note take of the height.
@@ -39,6 +41,7 @@ private:
     DiagramView* view_;
     QLabel* note_;
     QString words_;
+    QString brief_;
     bool chosen_ = false;
 };
 

@@ -40,6 +40,8 @@ constexpr int kTypingMilliseconds = 1200;
 // room for them.
 constexpr double kShareOfFont = 0.75;
 constexpr double kGreatestShare = 0.06; // of the side
+constexpr double kShareOfSmall = 0.062;
+constexpr double kLeastSmallLetters = 5.0;
 
 int hiddenPoints(const present::DisplayList& list)
 {
@@ -48,6 +50,15 @@ int hiddenPoints(const present::DisplayList& list)
         hidden += region.kind == RegionKind::More ? region.index : 0;
     }
     return hidden;
+}
+
+double largestLetters(const present::DisplayList& list)
+{
+    double largest = 0.0;
+    for (const present::Text& text : list.texts) {
+        largest = std::max(largest, text.size);
+    }
+    return largest;
 }
 
 bool samePerson(const ChartPointer& one, const ChartPointer& other)
@@ -132,18 +143,21 @@ present::DisplayList DiagramView::layOut(double size, present::ColourScheme sche
         options.centre = present::centreLines(subject, options.english);
     }
     options.measure = measureWith(font());
+    if (contents_.small) {
+        options.fontSize = std::max(kLeastSmallLetters, kShareOfSmall * size);
+    }
     present::DisplayList list = present::layoutDiagram(subject, contents_.style, options, size);
+    if (scheme == present::ColourScheme::Print || contents_.small) {
+        return list;
+    }
     // Large letters of the window make those of diagrams larger, unless points had to give way.
-    const double wanted = std::min(kShareOfFont * QFontInfo(font()).pixelSize() * 100.0 / zoom_,
-                                   kGreatestShare * size);
-    if (scheme != present::ColourScheme::Print && !list.texts.empty() && !contents_.small) {
-        options.fontSize = std::max(wanted, 8.0);
-        if (options.fontSize > 0.036 * size) {
-            present::DisplayList larger =
-                present::layoutDiagram(subject, contents_.style, options, size);
-            if (hiddenPoints(larger) <= hiddenPoints(list)) {
-                return larger;
-            }
+    options.fontSize = std::min(kShareOfFont * QFontInfo(font()).pixelSize() * 100.0 / zoom_,
+                                kGreatestShare * size);
+    if (options.fontSize > largestLetters(list)) {
+        present::DisplayList larger =
+            present::layoutDiagram(subject, contents_.style, options, size);
+        if (hiddenPoints(larger) <= hiddenPoints(list)) {
+            return larger;
         }
     }
     return list;

@@ -19,7 +19,7 @@ using present::RegionKind;
 constexpr int kSignLight = 34; // of 255
 constexpr int kLordLight = 70;
 constexpr double kFrameWidth = 2.0;
-constexpr double kAroundPoint = 2.0;
+constexpr double kBesidePoint = 4.0;
 constexpr double kRounding = 3.0;
 
 QPolygonF cornersOf(const present::Region& region)
@@ -38,8 +38,7 @@ bool isSmall(const present::Region& region)
 
 QRectF aroundPoint(const present::Region& region)
 {
-    const QRectF box = cornersOf(region).boundingRect();
-    return box.adjusted(-2.0 * kAroundPoint, -kAroundPoint, 2.0 * kAroundPoint, kAroundPoint);
+    return cornersOf(region).boundingRect().adjusted(-kBesidePoint, 0.0, kBesidePoint, 0.0);
 }
 
 void fill(QPainter& painter, const present::Region& region, int strength)
@@ -97,6 +96,10 @@ void DiagramView::paintLights(QPainter& painter) const
     for (const int selected :
          present::regionsOf(list_, selection_, contents_.varga, ascendantSign())) {
         fill(painter, *region(selected), kSignLight);
+        // Below the texts, since lines of text stand close together.
+        if (isSmall(*region(selected))) {
+            outline(painter, *region(selected), Qt::SolidLine);
+        }
     }
 }
 
@@ -104,7 +107,9 @@ void DiagramView::paintFrames(QPainter& painter) const
 {
     for (const int selected :
          present::regionsOf(list_, selection_, contents_.varga, ascendantSign())) {
-        outline(painter, *region(selected), Qt::SolidLine);
+        if (!isSmall(*region(selected))) {
+            outline(painter, *region(selected), Qt::SolidLine);
+        }
     }
     if (!hasFocus()) {
         return;

@@ -3,12 +3,15 @@
 #include "app/desktop/shell/Convert.h"
 
 #include <QFontMetricsF>
+#include <QLineF>
 #include <QPainter>
 #include <QPalette>
 #include <QPolygonF>
 #include <QWidget>
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace kestrav::desktop
 {
@@ -73,10 +76,26 @@ void paintLine(QPainter& painter, const present::Line& line, const present::Disp
     }
 }
 
+// Whether the line of an aspect runs through the text, so that its letters need clear ground.
+bool crossed(const present::Text& text, const present::DisplayList& list)
+{
+    const QRectF box(QPointF(text.box.left, text.box.top),
+                     QPointF(text.box.right, text.box.bottom));
+    return std::any_of(list.lines.begin(), list.lines.end(), [&box](const present::Line& line) {
+        const QLineF path(line.from.x, line.from.y, line.to.x, line.to.y);
+        const QLineF diagonals[] = {{box.topLeft(), box.bottomRight()},
+                                    {box.topRight(), box.bottomLeft()}};
+        return line.arrow &&
+               std::any_of(std::begin(diagonals), std::end(diagonals), [&](const QLineF& diagonal) {
+                   return path.intersects(diagonal) == QLineF::BoundedIntersection;
+               });
+    });
+}
+
 void paintText(QPainter& painter, const present::Text& text, const present::DisplayList& list,
                QFont font)
 {
-    if (text.halo) {
+    if (text.halo && crossed(text, list)) {
         const double around = text.size * kHaloPart;
         painter.fillRect(QRectF(text.box.left - around, text.box.top,
                                 text.box.width() + 2.0 * around, text.box.height()),

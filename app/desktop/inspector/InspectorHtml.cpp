@@ -5,7 +5,11 @@
 #include "core/Points.h"
 #include "core/Varga.h"
 
+#include <QFontMetrics>
+#include <QGuiApplication>
 #include <QStringList>
+
+#include <algorithm>
 
 namespace kestrav::desktop
 {
@@ -47,6 +51,12 @@ QString cellHtml(const present::Cell& cell, bool right, const QString& tag)
         .arg(tag, right ? QStringLiteral("right") : QStringLiteral("left"), words);
 }
 
+// The pane is narrow: of a placement the division says what its name would say again.
+bool isLeftOut(const present::Table& table, std::size_t column)
+{
+    return table.id == "placements" && table.columns[column].heading == L"Name";
+}
+
 QString tableHtml(const present::Table& table)
 {
     if (table.columns.empty() || table.rows.empty()) {
@@ -55,18 +65,22 @@ QString tableHtml(const present::Table& table)
     QString html = QStringLiteral("<table cellspacing='0' cellpadding='2'>");
     if (!table.withoutHeadings()) {
         html += QStringLiteral("<tr>");
-        for (const present::Column& column : table.columns) {
-            html += cellHtml(column.heading, column.align == present::Align::Right,
-                             QStringLiteral("th"));
+        for (std::size_t i = 0; i < table.columns.size(); ++i) {
+            if (!isLeftOut(table, i)) {
+                html +=
+                    cellHtml(table.columns[i].heading,
+                             table.columns[i].align == present::Align::Right, QStringLiteral("th"));
+            }
         }
         html += QStringLiteral("</tr>");
     }
     for (const present::Row& row : table.rows) {
         html += QStringLiteral("<tr>");
-        for (std::size_t i = 0; i < row.size(); ++i) {
-            const bool right =
-                i < table.columns.size() && table.columns[i].align == present::Align::Right;
-            html += cellHtml(row[i], right, QStringLiteral("td"));
+        for (std::size_t i = 0; i < std::min(row.size(), table.columns.size()); ++i) {
+            if (!isLeftOut(table, i)) {
+                html += cellHtml(row[i], table.columns[i].align == present::Align::Right,
+                                 QStringLiteral("td"));
+            }
         }
         html += QStringLiteral("</tr>");
     }
@@ -127,15 +141,19 @@ QString inspectionHtml(const present::Inspection& inspection, const QSet<QString
     const QString plain =
         QStringLiteral("color:%1; text-decoration:none").arg(themeColour(ThemeRole::Accent).name());
     QString html = QStringLiteral("<style>a { text-decoration:none; color:%1 } "
-                                  "th { font-weight:normal; color:%2 }</style><h2>%3</h2>")
+                                  "th { font-weight:normal; color:%2 }</style><h3>%3</h3>")
                        .arg(themeColour(ThemeRole::Accent).name(),
                             themeColour(ThemeRole::Quiet).name(), escaped(inspection.title));
+    const int space = QFontMetrics(QGuiApplication::font()).height();
     for (const present::Table& section : inspection.sections) {
         const QString id = toQt(section.id);
         const bool hidden = folded.contains(id);
-        html += QStringLiteral("<h4><a style='%1' href='fold:%2'>%3 %4</a></h4>")
+        html += QStringLiteral("<p style='margin-top:%5px; margin-bottom:%6px'>"
+                               "<b><a style='%1' href='fold:%2'>%3 %4</a></b></p>")
                     .arg(plain, id, hidden ? QStringLiteral("\u25B8") : QStringLiteral("\u25BE"),
-                         escaped(section.title));
+                         escaped(section.title))
+                    .arg(space)
+                    .arg(space / 4);
         if (hidden) {
             continue;
         }

@@ -9,6 +9,7 @@
 #include <QHBoxLayout>
 #include <QScrollBar>
 #include <QTextBrowser>
+#include <QTextOption>
 #include <QToolButton>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -68,6 +69,8 @@ InspectorPanel::InspectorPanel(Workspace& workspace, present::Panel panel, QWidg
     browser_->setAccessibleName(tr("Inspector"));
     browser_->setFrameShape(QFrame::NoFrame);
     browser_->setOpenLinks(false);
+    browser_->setWordWrapMode(QTextOption::WordWrap);
+    browser_->document()->setDocumentMargin(fontMetrics().height() / 2.0);
     browser_->setTextInteractionFlags(Qt::TextBrowserInteraction);
     connect(browser_, &QTextBrowser::anchorClicked, this, &InspectorPanel::linkClicked);
 
