@@ -14,6 +14,7 @@
 #include "app/desktop/pages/PageView.h"
 #include "app/desktop/shell/Convert.h"
 #include "app/desktop/shell/Ks6main.h"
+#include "app/desktop/yogas/YogaDesk.h"
 #include "data/DatabaseMessages.h"
 #include "data/FileStamp.h"
 #include "data/import/BirthEntry.h"
@@ -221,7 +222,7 @@ void DatabaseActions::open(const std::filesystem::path& path, std::function<void
         }
     };
     if (data::lowered(path.extension().string()) == ".ksy") {
-        loadYogas(path);
+        openYogaFile(window_.workspace(), path);
         answer(false);
     } else if (data::shouldImport(path)) {
         window_.findChild<ExchangeActions*>()->importFile(path);
@@ -231,18 +232,6 @@ void DatabaseActions::open(const std::filesystem::path& path, std::function<void
     } else {
         answer(false);
     }
-}
-
-void DatabaseActions::loadYogas(const std::filesystem::path& path)
-{
-    Workspace& workspace = window_.workspace();
-    auto library = std::make_shared<yoga::YogaLibrary>(*workspace.yogas());
-    if (const auto loaded = library->load(path); !loaded) {
-        workspace.tellProblem(toQt(loaded.error().text()));
-        return;
-    }
-    workspace.setYogas(std::move(library));
-    workspace.tell(tr("The yogas of %1 have been loaded").arg(toQt(data::fileText(path))));
 }
 
 void DatabaseActions::read(const std::filesystem::path& path, std::function<void(bool opened)> then)

@@ -58,7 +58,6 @@ private:
     void BackupActionClick();
     void RestoreActionClick();
     void read(const std::filesystem::path& path, std::function<void(bool opened)> then);
-    void loadYogas(const std::filesystem::path& path);
     void showFirst();
     [[nodiscard]] bool mayLeave();
     [[nodiscard]] OpenDatabase& database();
