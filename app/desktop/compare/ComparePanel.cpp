@@ -1,5 +1,6 @@
 #include "app/desktop/compare/ComparePanel.h"
 
+#include "app/desktop/options/SettingRows.h"
 #include "app/desktop/panels/TableExport.h"
 #include "app/desktop/panels/TableView.h"
 #include "app/desktop/shell/Convert.h"
@@ -33,16 +34,10 @@ bool changesCharts(const core::SettingInfo& setting)
            setting.name != "twelveHourClock";
 }
 
-QString valueText(const core::Settings& settings, const core::SettingInfo& setting, int value)
+QString valueText(core::Settings settings, const core::SettingInfo& setting, int value)
 {
-    if (setting.name == "ayanamsaRow") {
-        return toQt(std::string(settings.ayanamsaTable[std::size_t(value)].nameText()));
-    }
-    if (std::holds_alternative<bool core::Settings::*>(setting.field)) {
-        return value == 0 ? ComparePanel::tr("off") : ComparePanel::tr("on");
-    }
-    const std::string_view name = core::choiceName(setting, value);
-    return name.empty() ? QString::number(value) : toQt(std::string(name));
+    core::storeSetting(settings, setting, value);
+    return settingWords(setting, settings);
 }
 
 } // namespace
@@ -106,11 +101,12 @@ QWidget* ComparePanel::makeSettingsPage()
     for (const core::SettingInfo& setting : core::settingsTable()) {
         if (changesCharts(setting)) {
             const QString meaning = toQt(std::string(setting.meaning));
-            setting_->addItem(toQt(std::string(setting.name)));
+            setting_->addItem(settingLabel(settingRow(setting.name)),
+                              toQt(std::string(setting.name)));
             setting_->setItemData(setting_->count() - 1, meaning, Qt::ToolTipRole);
         }
     }
-    setting_->setCurrentText(QStringLiteral("ayanamsaRow"));
+    setting_->setCurrentIndex(setting_->findData(QStringLiteral("ayanamsaRow")));
     auto* const label = new QLabel(tr("&With the setting"), page);
     label->setBuddy(setting_);
     auto* const bar = new QHBoxLayout;
@@ -131,7 +127,8 @@ QWidget* ComparePanel::makeSettingsPage()
 void ComparePanel::SettingComboBoxActivated()
 {
     const core::Settings& settings = workspace().settings();
-    const core::SettingInfo* const setting = core::findSetting(toUtf8(setting_->currentText()));
+    const core::SettingInfo* const setting =
+        core::findSetting(toUtf8(setting_->currentData().toString()));
     const int now = int(core::settingValue(settings, *setting));
     value_->clear();
     for (int value = int(setting->lowest); value <= int(setting->highest); ++value) {
@@ -192,7 +189,8 @@ void ComparePanel::refresh()
 void ComparePanel::showDifferences()
 {
     const ChartPointer first = chart();
-    const core::SettingInfo* const setting = core::findSetting(toUtf8(setting_->currentText()));
+    const core::SettingInfo* const setting =
+        core::findSetting(toUtf8(setting_->currentData().toString()));
     if (!first || value_->count() == 0) {
         showTable(*differences_, {});
         return;

@@ -51,6 +51,7 @@ void PageStrip::setPages(std::vector<present::PageLayout> layouts)
         pages_.push_back({std::move(layout)});
     }
     showTab(tabs_->currentIndex());
+    tabs_->updateGeometry();
 }
 
 void PageStrip::addPage(present::PageLayout layout)

@@ -5,6 +5,7 @@
 #include "app/desktop/panels/PanelWidget.h"
 #include "app/desktop/shell/Convert.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QComboBox>
 #include <QContextMenuEvent>
@@ -21,6 +22,17 @@ namespace
 {
 
 constexpr int kZoomStep = 10;
+
+// What the choosers of the bar show at least; their lists show everything.
+constexpr int kVargaLetters = 8;
+constexpr int kStyleLetters = 5;
+
+void leaveRoom(QComboBox& chooser, int letters)
+{
+    chooser.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    chooser.setMinimumContentsLength(letters);
+    chooser.view()->setMinimumWidth(chooser.fontMetrics().averageCharWidth() * 3 * letters);
+}
 
 QToolButton* barButton(const QString& text, const QString& name, const QString& tip,
                        QWidget* parent)
@@ -62,6 +74,7 @@ PanelCell::PanelCell(Workspace& workspace, const present::Panel& panel, QWidget*
             varga_->addItem(vargaTitle(varga));
         }
         varga_->setFrame(false);
+        leaveRoom(*varga_, kVargaLetters);
         connect(varga_, &QComboBox::activated, this, [this](int varga) {
             panel_->setVarga(varga);
             emit changed();
@@ -79,6 +92,7 @@ PanelCell::PanelCell(Workspace& workspace, const present::Panel& panel, QWidget*
                 toQt(present::diagramStyleTitle(present::DiagramStyle(style))).section(' ', 0, 0));
         }
         style_->setFrame(false);
+        leaveRoom(*style_, kStyleLetters);
         connect(style_, &QComboBox::activated, this, [this](int index) {
             panel_->setStyle(index == 0 ? std::nullopt
                                         : std::optional(present::DiagramStyle(index - 1)));
@@ -132,7 +146,9 @@ QString PanelCell::captionText() const
 void PanelCell::showCaption()
 {
     const QString text = captionText();
-    caption_->setText(text);
+    // Where the chooser beside it says the same, the caption would only take room.
+    const bool said = varga_ != nullptr && text == varga_->itemText(panel_->panel().varga);
+    caption_->setText(said ? QString() : text);
     caption_->setToolTip(text);
     panel_->setAccessibleName(text);
     if (varga_ != nullptr) {

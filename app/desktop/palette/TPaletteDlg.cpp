@@ -2,6 +2,7 @@
 
 #include "analysis/VargaNames.h"
 #include "app/desktop/database/OpenDatabase.h"
+#include "app/desktop/options/SettingRows.h"
 #include "app/desktop/pages/PageStrip.h"
 #include "app/desktop/palette/PaletteMatch.h"
 #include "app/desktop/panels/PanelWidget.h"
@@ -64,7 +65,8 @@ void addSettings(TKSVform1& window, std::vector<PaletteEntry>& entries)
 {
     for (const core::SettingInfo& setting : core::settingsTable()) {
         const QString name = toQt(std::string(setting.name));
-        entries.push_back({name + QStringLiteral(": ") + toQt(std::string(setting.meaning)),
+        entries.push_back({settingLabel(settingRow(setting.name)) + QStringLiteral(": ") +
+                               toQt(std::string(setting.meaning)),
                            TPaletteDlg::tr("Setting"),
                            {},
                            [&window, name] {

@@ -92,6 +92,7 @@ TablePanel::TablePanel(Workspace& workspace, present::Panel panel, QWidget* pare
     setObjectName(QStringLiteral("TablePanel-") + toQt(panel_.content));
     view_->setObjectName(QStringLiteral("TableView"));
     note_->setWordWrap(true);
+    note_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     note_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     note_->setMargin(note_->fontMetrics().height() / 3);
     note_->hide();

@@ -17,6 +17,9 @@ namespace kestrav::desktop
 namespace
 {
 
+// Drawings are made for paper; on the screen two of them stand side by side.
+constexpr double kShownPart = 0.75;
+
 QString escaped(const std::wstring& text)
 {
     return toQt(text).trimmed().toHtmlEscaped();
@@ -95,6 +98,7 @@ private:
 
     void add(const present::DrawingRow& row)
     {
+        html_ += QStringLiteral("<p>");
         for (const present::Drawing& drawing : row.drawings) {
             const double ratio = browser_.devicePixelRatioF();
             const QSize pixels(int(std::ceil(drawing.list.width * ratio)),
@@ -112,9 +116,10 @@ private:
             browser_.document()->addResource(QTextDocument::ImageResource, QUrl(name), image);
             html_ += QStringLiteral("<img src=\"%1\" width=\"%2\" height=\"%3\"> ")
                          .arg(name)
-                         .arg(int(drawing.list.width))
-                         .arg(int(drawing.list.height));
+                         .arg(int(drawing.list.width * kShownPart))
+                         .arg(int(drawing.list.height * kShownPart));
         }
+        html_ += QStringLiteral("</p>");
     }
 
     void add(const present::PageBreak& /*pageBreak*/)

@@ -3,13 +3,17 @@
 #include "app/desktop/database/DatabaseActions.h"
 #include "app/desktop/database/OpenDatabase.h"
 #include "app/desktop/entry/EntryActions.h"
+#include "app/desktop/help/HelpActions.h"
+#include "app/desktop/help/TShortcutsDlg.h"
 #include "app/desktop/inspector/InspectorPanel.h"
 #include "app/desktop/options/OptionsActions.h"
+#include "app/desktop/options/TOptionsDlg.h"
 #include "app/desktop/pages/DeliveredPages.h"
 #include "app/desktop/pages/PageActions.h"
 #include "app/desktop/pages/PageStrip.h"
 #include "app/desktop/pages/PageView.h"
 #include "app/desktop/pages/SavedPages.h"
+#include "app/desktop/palette/TPaletteDlg.h"
 #include "app/desktop/printing/PrintActions.h"
 #include "app/desktop/shell/ChangedPointsText.h"
 #include "app/desktop/shell/Convert.h"
@@ -28,6 +32,7 @@
 #include <QCloseEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScreen>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QVBoxLayout>
@@ -41,6 +46,12 @@ namespace
 {
 
 constexpr int kZoomStep = 10;
+
+// In heights of a line.
+constexpr int kWidth = 100;
+constexpr int kHeight = 60;
+constexpr int kLeftWidth = 18;
+constexpr int kRightWidth = 17;
 
 } // namespace
 
@@ -71,6 +82,11 @@ TKSVform1::TKSVform1(Workspace& workspace)
             [this](const QString& name) { pages_->show(name); });
     connect(&workspace_, &Workspace::settingsChanged, this,
             [this] { applyTheme(workspace_.settings()); });
+    connect(&workspace_, &Workspace::settingWanted, this, [this](const QString& name) {
+        TOptionsDlg dialog(*this, this);
+        dialog.showSetting(toUtf8(name));
+        dialog.exec();
+    });
 
     makeMenus();
     std::vector<std::string> problems;
@@ -78,11 +94,24 @@ TKSVform1::TKSVform1(Workspace& workspace)
     for (const std::string& problem : problems) {
         workspace_.tellProblem(toQt(problem));
     }
-    resize(fontMetrics().height() * 85, fontMetrics().height() * 53);
+    takeStandardSize();
     showTitle();
 }
 
 TKSVform1::~TKSVform1() = default;
+
+// As large as is comfortable, within the screen; the panes beside the pages keep their width.
+void TKSVform1::takeStandardSize()
+{
+    const int line = fontMetrics().height();
+    resize(QSize(line * kWidth, line * kHeight).boundedTo(screen()->availableSize()));
+    QList<int> sizes;
+    for (int i = 0; i < panes_->count(); ++i) {
+        const QWidget* const pane = panes_->widget(i);
+        sizes += pane == pages_ ? width() : line * (pane == left_ ? kLeftWidth : kRightWidth);
+    }
+    panes_->setSizes(sizes);
+}
 
 QMenu* TKSVform1::menu(MenuName name)
 {
@@ -129,6 +158,8 @@ void TKSVform1::makeMenus()
     new PageActions(*this);
     makeOthers();
     makeViewMenu();
+    new HelpActions(*this);
+    restoreShortcuts(*this);
     connect(&workspace_, &Workspace::chartChanged, this, [this] {
         for (QAction* const action : std::as_const(chartCommands_)) {
             action->setEnabled(workspace_.chart() != nullptr);
@@ -167,6 +198,13 @@ void TKSVform1::makeViewMenu()
     addCommand(MenuName::View, {"DateBarAction", tr("&Date Bar"), QKeySequence(Qt::Key_F11)},
                [this, toggle] { toggle(dateBar_); });
     menu(MenuName::View)->addSeparator();
+    addCommand(MenuName::View,
+               {"PaletteAction", tr("&Find Anything..."), QKeySequence(tr("Ctrl+K")),
+                tr("Finds commands, charts, pages, settings and points")},
+               [this] {
+                   TPaletteDlg palette(*this);
+                   palette.exec();
+               });
     addCommand(MenuName::View, {"NextCellAction", tr("&Next Cell"), QKeySequence(Qt::Key_F6)},
                [this] {
                    if (pages_->page() != nullptr) {

@@ -100,6 +100,7 @@ private:
     void makeMenus();
     void makeViewMenu();
     void makeOthers();
+    void takeStandardSize();
     void showTitle();
 
     Workspace& workspace_;

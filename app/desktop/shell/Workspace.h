@@ -165,7 +165,7 @@ private:
     ChartPointer momentChart_;
     ChangedPoints changed_;
     double moment_ = 0.0;
-    present::Link selection_;
+    present::Link selection_{present::Subject::Point, core::kAscendant};
     YogasPointer yogas_;
 };
 
