@@ -59,7 +59,7 @@ QLineEdit* makeEdit(QWidget* parent, const char* name, int most)
     edit->setObjectName(QLatin1String(name));
     edit->setMaxLength(most);
     const int digit = edit->fontMetrics().horizontalAdvance(QLatin1Char('0'));
-    const int frame = 3 * digit;
+    const int frame = 2 * digit;
     if (most <= kLongestShort) {
         edit->setFixedWidth(std::max(most, 2) * digit + frame);
     } else {

@@ -89,6 +89,7 @@ TDataEntryForm::TDataEntryForm(Workspace& workspace, QWidget* parent)
     preview->setContentsMargins(fontMetrics().height() / 2, 0, 0, 0);
     state_->setObjectName(QStringLiteral("StateLabel"));
     state_->setWordWrap(true);
+    state_->setContentsMargins(fontMetrics().height() / 2, 0, 0, 0);
     auto* const bottom = new QVBoxLayout;
     bottom->addLayout(preview);
     bottom->addWidget(state_);
