@@ -17,6 +17,7 @@
 #include <QImage>
 #include <QMimeData>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QWheelEvent>
 #include <QXmlStreamReader>

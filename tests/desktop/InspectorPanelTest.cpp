@@ -13,6 +13,7 @@
 #include "app/present/DiagramRegions.h"
 #include "tests/desktop/DesktopForTests.h"
 
+#include <QAbstractItemModel>
 #include <QComboBox>
 #include <QTextBrowser>
 #include <QToolButton>

@@ -36,14 +36,20 @@ constexpr Range kRanges[] = {
     {Subject::Moment, 0, 0},
 };
 
+// Tables with more columns have smaller letters.
+constexpr std::size_t kMostColumns = 4;
+
 QString escaped(const std::wstring& text)
 {
     return toQt(text).trimmed().toHtmlEscaped();
 }
 
-QString cellHtml(const present::Cell& cell, bool right, const QString& tag)
+QString cellHtml(const present::Cell& cell, bool right, bool small, const QString& tag)
 {
     QString words = escaped(cell.text);
+    if (small) {
+        words = QStringLiteral("<small>%1</small>").arg(words);
+    }
     if (cell.link.subject != Subject::None) {
         words = QStringLiteral("<a href='%1'>%2</a>").arg(linkText(cell.link), words);
     }
@@ -63,13 +69,14 @@ QString tableHtml(const present::Table& table)
         return {};
     }
     QString html = QStringLiteral("<table cellspacing='0' cellpadding='2'>");
+    const bool small = table.columns.size() > kMostColumns;
     if (!table.withoutHeadings()) {
         html += QStringLiteral("<tr>");
         for (std::size_t i = 0; i < table.columns.size(); ++i) {
             if (!isLeftOut(table, i)) {
-                html +=
-                    cellHtml(table.columns[i].heading,
-                             table.columns[i].align == present::Align::Right, QStringLiteral("th"));
+                html += cellHtml(table.columns[i].heading,
+                                 table.columns[i].align == present::Align::Right, small,
+                                 QStringLiteral("th"));
             }
         }
         html += QStringLiteral("</tr>");
@@ -78,7 +85,7 @@ QString tableHtml(const present::Table& table)
         html += QStringLiteral("<tr>");
         for (std::size_t i = 0; i < std::min(row.size(), table.columns.size()); ++i) {
             if (!isLeftOut(table, i)) {
-                html += cellHtml(row[i], table.columns[i].align == present::Align::Right,
+                html += cellHtml(row[i], table.columns[i].align == present::Align::Right, small,
                                  QStringLiteral("td"));
             }
         }

@@ -139,7 +139,7 @@ std::vector<present::Block> InspectorPanel::blocks()
 QSize InspectorPanel::sizeHint() const
 {
     const int unit = fontMetrics().height();
-    return {unit * 20, unit * 30};
+    return {unit * 22, unit * 30};
 }
 
 void InspectorPanel::remember()
