@@ -17,7 +17,7 @@ namespace kestrav::desktop
 namespace
 {
 
-constexpr std::size_t kPortion = 60;
+constexpr std::size_t kPortion = 150; ///< a life of years at once
 constexpr double kLife = 120.0;
 constexpr double kDaysOfYear = 365.25; ///< of lengths in a chart without dates
 

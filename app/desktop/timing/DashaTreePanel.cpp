@@ -120,7 +120,8 @@ void DashaTreePanel::makeActions()
     actions_.back()->setShortcut(QKeySequence::Copy);
     actions_.back()->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     addAction(actions_.back());
-    add(tr("Show the &Running Period"), "ShowRunningAction", &DashaTreePanel::openAtMoment);
+    add(tr("Show the &Running Period"), "ShowRunningAction",
+        &DashaTreePanel::ShowRunningActionExecute);
 }
 
 QString DashaTreePanel::title() const
@@ -205,7 +206,8 @@ void DashaTreePanel::openAtMoment()
     }
     fitColumns();
     // Who works in the tree moves the date from there, and must not lose the place.
-    if (!path.isEmpty() && !tree_->hasFocus()) {
+    const bool lost = !tree_->currentIndex().isValid();
+    if (!path.isEmpty() && (lost || !tree_->hasFocus())) {
         tree_->setCurrentIndex(path.back());
         tree_->scrollTo(path.back(), QAbstractItemView::PositionAtCenter);
     }
@@ -289,6 +291,14 @@ void DashaTreePanel::SetToStartActionExecute()
 {
     if (tree_->currentIndex().isValid()) {
         workspace().setMoment(model_->period(tree_->currentIndex()).startJulianDay);
+    }
+}
+
+void DashaTreePanel::ShowRunningActionExecute()
+{
+    if (shown_) {
+        tree_->setCurrentIndex({});
+        openAtMoment();
     }
 }
 

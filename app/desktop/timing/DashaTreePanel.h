@@ -45,6 +45,7 @@ private:
     void SetToStartActionExecute();
     void SetToEndActionExecute();
     void SelectLordActionExecute();
+    void ShowRunningActionExecute();
 
     DashaChoice& choice_;
     QComboBox* system_;
