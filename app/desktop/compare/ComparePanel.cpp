@@ -77,7 +77,7 @@ ComparePanel::ComparePanel(Workspace& workspace, present::Panel panel, QWidget* 
     }
     connect(choose_, &QPushButton::clicked, this, [this] {
         if (auto* const action =
-                window()->findChild<QAction*>(QStringLiteral("CompareWithAction"))) {
+                window()->findChild<QAction*>(QStringLiteral("CompareAction"))) {
             action->trigger();
         }
     });

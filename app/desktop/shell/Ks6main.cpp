@@ -262,6 +262,11 @@ void TKSVform1::addCloseQuestion(std::function<bool()> mayClose)
     closeQuestions_.push_back(std::move(mayClose));
 }
 
+void TKSVform1::leaveWithoutQuestions()
+{
+    silent_ = true;
+}
+
 void TKSVform1::showTitle()
 {
     QString title = QStringLiteral("Kestrav");
@@ -313,6 +318,10 @@ void TKSVform1::FormClose()
 
 void TKSVform1::closeEvent(QCloseEvent* event)
 {
+    if (silent_) {
+        event->accept();
+        return;
+    }
     for (const auto& mayClose : closeQuestions_) {
         if (!mayClose()) {
             event->ignore();

@@ -85,6 +85,8 @@ public:
 
     /// Asked in their order before the window closes; the first that says no keeps it open.
     void addCloseQuestion(std::function<bool()> mayClose);
+    /// From now on the window closes without asking and keeps nothing of the session.
+    void leaveWithoutQuestions();
 
     /// Window geometry, panes, pages and shared date, kept from run to run.
     void saveSession();
@@ -114,6 +116,7 @@ private:
     QList<QAction*> commands_;
     QList<QAction*> chartCommands_;
     std::vector<std::function<bool()>> closeQuestions_;
+    bool silent_ = false;
 };
 
 } // namespace kestrav::desktop

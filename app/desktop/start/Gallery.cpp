@@ -1,5 +1,6 @@
 #include "app/desktop/start/Gallery.h"
 
+#include "app/desktop/database/DatabaseGallery.h"
 #include "app/desktop/entry/PlaceSource.h"
 #include "app/desktop/entry/TAtlasCitiesDlg.h"
 #include "app/desktop/entry/TChooseChartDlg.h"
@@ -8,6 +9,10 @@
 #include "app/desktop/entry/TNowLocationDlg.h"
 #include "app/desktop/entry/TPcAtlasVersionDlg.h"
 #include "app/desktop/entry/TWorldMapForm.h"
+#include "app/desktop/help/TAboutBox.h"
+#include "app/desktop/help/THelpForm.h"
+#include "app/desktop/help/TQuickTipsDlg.h"
+#include "app/desktop/help/TShortcutsDlg.h"
 #include "app/desktop/options/Ks6customayan.h"
 #include "app/desktop/options/Ks6vargaoptions.h"
 #include "app/desktop/options/TChangePointDlg.h"
@@ -17,7 +22,10 @@
 #include "app/desktop/options/TSelectDashaDlg.h"
 #include "app/desktop/pages/PageStrip.h"
 #include "app/desktop/pages/TPageLayoutDlg.h"
+#include "app/desktop/palette/TPaletteDlg.h"
 #include "app/desktop/panels/TColumnsDlg.h"
+#include "app/desktop/printing/Printing.h"
+#include "app/desktop/printing/TPrintPreviewForm.h"
 #include "app/desktop/shell/Ks6main.h"
 #include "app/desktop/timing/Specialdate.h"
 #include "app/desktop/timing/TTransitChoicesDlg.h"
@@ -39,6 +47,34 @@ std::span<const GalleryRow> gallery()
         {"PageLayoutDlg",
          [](TKSVform1& window) -> QWidget* {
              return new TPageLayoutDlg(window.pages().layout(0), &window);
+         }},
+        {"MergePreviewDlg", sampleMergePreview},
+        {"ImportReportDlg", sampleImportReport},
+        {"ProgressDlg", sampleProgress},
+        {"PaletteDlg",
+         [](TKSVform1& window) -> QWidget* {
+             return new TPaletteDlg(window);
+         }},
+        {"PrintPreviewForm",
+         [](TKSVform1& window) -> QWidget* {
+             return new TPrintPreviewForm(paperOfPage(*window.pages().page(), window.workspace()),
+                                          window.workspace(), &window);
+         }},
+        {"HelpForm",
+         [](TKSVform1& window) -> QWidget* {
+             return new THelpForm(&window);
+         }},
+        {"QuickTipsDlg",
+         [](TKSVform1& window) -> QWidget* {
+             return new TQuickTipsDlg(window.workspace(), &window);
+         }},
+        {"ShortcutsDlg",
+         [](TKSVform1& window) -> QWidget* {
+             return new TShortcutsDlg(window);
+         }},
+        {"AboutBox",
+         [](TKSVform1& window) -> QWidget* {
+             return new TAboutBox(&window);
          }},
         {"ColumnsDlg",
          [](TKSVform1& window) -> QWidget* {

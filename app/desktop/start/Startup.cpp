@@ -1,6 +1,7 @@
 #include "app/desktop/start/Startup.h"
 
 #include "app/desktop/database/OpenFirst.h"
+#include "app/desktop/help/HelpActions.h"
 #include "app/desktop/options/OptionsActions.h"
 #include "app/desktop/pages/PageStrip.h"
 #include "app/desktop/shell/BackgroundWork.h"
@@ -9,12 +10,14 @@
 #include "app/desktop/shell/TMessages.h"
 #include "app/desktop/shell/Theme.h"
 #include "app/desktop/start/Screenshot.h"
+#include "app/desktop/start/SingleInstance.h"
 #include "core/Locations.h"
 #include "core/SettingsFile.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QFileInfo>
 #include <QIcon>
-#include <QTimer>
 
 #include <cstdio>
 #include <memory>
@@ -80,6 +83,55 @@ void applySize(QWidget& window, const ProgramOptions& options)
     }
 }
 
+QStringList absoluteFiles(const ProgramOptions& options)
+{
+    QStringList files;
+    for (const std::string& file : options.files) {
+        files += QFileInfo(toQt(std::filesystem::path(file))).absoluteFilePath();
+    }
+    return files;
+}
+
+// A later start of the program: its files are opened here, and the window comes to the front.
+void answerLaterStart(TKSVform1& window, const QStringList& files)
+{
+    if (!files.isEmpty()) {
+        ProgramOptions options;
+        for (const QString& file : files) {
+            options.files.push_back(toPath(file).string());
+        }
+        openFirst(window, options);
+    }
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
+
+// What a user who starts the program meets, in this order.
+void greet(TKSVform1& window, const ProgramOptions& options)
+{
+    const auto choose = [&window](const char* command) {
+        if (auto* const action = window.findChild<QAction*>(QLatin1String(command))) {
+            action->trigger();
+        }
+    };
+    if (options.now) {
+        choose("NowChartAction");
+    }
+    if (options.newChart) {
+        choose("NewChartAction");
+    }
+    if (options.batch) {
+        window.leaveWithoutQuestions();
+        return;
+    }
+    const bool firstStart = !window.workspace().settings().wizardDone;
+    window.findChild<OptionsActions*>()->runWizardAtFirstStart();
+    if (!firstStart && !options.newChart) {
+        showQuickTip(window);
+    }
+}
+
 int picture(TKSVform1& window, const ProgramOptions& options)
 {
     if (*options.screenshot == "list") {
@@ -109,6 +161,10 @@ int runWindow(int& count, char** words, const ProgramOptions& options)
         QApplication::setWindowIcon(QIcon(toQt(*icon)));
     }
 
+    SingleInstance instance;
+    if (!options.batch && !options.screenshot && instance.handOver(absoluteFiles(options))) {
+        return 0;
+    }
     TMessages messages;
     const std::filesystem::path settingsPath = options.settingsFile
                                                    ? std::filesystem::path(*options.settingsFile)
@@ -126,21 +182,22 @@ int runWindow(int& count, char** words, const ProgramOptions& options)
         TKSVform1 window(workspace);
         workspace.setYogas(loadYogas(workspace));
         openFirst(window, options);
-        if (options.page) {
-            window.pages().show(toQt(*options.page));
-        }
         const bool alone = options.batch || options.screenshot;
         if (!alone && workspace.settings().restoreSession) {
             window.restoreSession();
+        }
+        if (options.page) {
+            window.pages().show(toQt(*options.page));
         }
         applySize(window, options);
         if (options.screenshot) {
             code = picture(window, options);
         } else {
+            QObject::connect(
+                &instance, &SingleInstance::asked, &window,
+                [&window](const QStringList& files) { answerLaterStart(window, files); });
             window.show();
-            if (!options.batch) {
-                window.findChild<OptionsActions*>()->runWizardAtFirstStart();
-            }
+            greet(window, options);
             code = QApplication::exec();
         }
     }
