@@ -139,6 +139,8 @@ void ChartListPane::makeList()
     connect(list_, &QWidget::customContextMenuRequested, this, &ChartListPane::ListContextMenu);
     connect(model_, &QAbstractItemModel::modelAboutToBeReset, this, &ChartListPane::keepSelection);
     connect(model_, &QAbstractItemModel::modelReset, this, &ChartListPane::restoreSelection);
+    connect(&workspace_.database(), &OpenDatabase::linesEdited, this, &ChartListPane::showColumns);
+    connect(&workspace_.database(), &OpenDatabase::reset, this, &ChartListPane::showColumns);
     for (const auto signal :
          {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved}) {
         connect(model_, signal, this, &ChartListPane::showCount);
@@ -245,6 +247,35 @@ void ChartListPane::fitColumns()
     width(ChartListModel::TimeColumn, QStringLiteral("00:00"));
     width(ChartListModel::TagColumn, QStringLiteral("A"));
     width(ChartListModel::LabelColumn, QStringLiteral("Sagittarius  (Trop. Sun)"));
+    showColumns();
+}
+
+void ChartListPane::showColumns()
+{
+    const auto& rows = workspace_.database().list().rows;
+    const bool tagged =
+        std::any_of(rows.begin(), rows.end(), [](const auto& row) { return row.tag != L' '; });
+    const bool labelled = label_->currentIndex() > 0;
+    constexpr int kLettersOfName = 20;
+    int room = list_->viewport()->width() - kLettersOfName * fontMetrics().averageCharWidth();
+    const auto showWhereRoom = [&](ChartListModel::Column column, bool wanted) {
+        // A hidden section has no size of its own until it is shown.
+        list_->setColumnHidden(column, !wanted);
+        const int size = list_->columnWidth(column);
+        list_->setColumnHidden(column, !wanted || size > room);
+        room -= list_->columnWidth(column);
+    };
+    // Names come first; what else there is room for, in this order.
+    list_->setColumnHidden(ChartListModel::LabelColumn, !labelled);
+    room -= list_->columnWidth(ChartListModel::LabelColumn);
+    showWhereRoom(ChartListModel::TagColumn, tagged);
+    showWhereRoom(ChartListModel::DateColumn, true);
+    showWhereRoom(ChartListModel::TimeColumn, true);
+}
+
+QSize ChartListPane::sizeHint() const
+{
+    return {fontMetrics().averageCharWidth() * 46, fontMetrics().height() * 40};
 }
 
 void ChartListPane::fillLabels()
@@ -377,10 +408,14 @@ void ChartListPane::restoreSelection()
 
 bool ChartListPane::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == list_ && event->type() == QEvent::Resize) {
+        showColumns();
+    }
     if (event->type() == QEvent::KeyPress) {
         const auto* const pressed = static_cast<QKeyEvent*>(event);
         const bool plain = (pressed->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-        if (plain && watched == list_ && listKey(pressed->key())) {
+        // Keys that a name being typed leaves over come by here as well.
+        if (plain && watched == list_ && list_->hasFocus() && listKey(pressed->key())) {
             return true;
         }
         if (plain && watched == filter_ && filterKey(pressed->key())) {
@@ -527,7 +562,7 @@ void ChartListPane::SortComboBoxActivated(int index)
 void ChartListPane::LabelComboBoxActivated(int index)
 {
     const bool labelled = index > 0;
-    list_->setColumnHidden(ChartListModel::LabelColumn, !labelled);
+    showColumns();
     model_->setLabels(labelled ? std::optional(researchKeys()[std::size_t(index) - 1])
                                : std::nullopt);
 }

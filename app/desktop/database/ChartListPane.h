@@ -52,6 +52,7 @@ public:
     /// Offers to read the file again that another program changed.
     void offerReload(const QString& file);
     void showRecentFiles();
+    [[nodiscard]] QSize sizeHint() const override;
 
 signals:
     /// A chart was opened for good; pages should have the focus now.
@@ -79,6 +80,7 @@ private:
     void makeReloadBar();
     void arrange();
     void fitColumns();
+    void showColumns();
     void fillLabels();
     void showCount();
     void showOpened();

@@ -81,6 +81,7 @@ std::wstring differences(const core::Chart& ours, const core::Chart& theirs)
          L"longitude or latitude");
     note(a.tag != b.tag || a.code != b.code || a.label != b.label, L"tag");
     note(a.sex != b.sex, L"sex");
+    note(a.occupation != b.occupation, L"occupation");
     note(a.notes != b.notes, L"notes");
     note(a.events != b.events, L"events");
     note(!(a.contact == b.contact), L"contact");
@@ -119,20 +120,29 @@ Table mergeTable(const data::MergePreview& preview, data::ChartDatabase& ours,
 
 Table importTable(const std::vector<data::ImportReport>& reports)
 {
-    Table table = {
-        "import",
-        L"",
-        {{L"File"}, {L"Record", Align::Right}, {L"Result"}, {L"Chart or reason", Align::Wrapped}}};
+    Table table = {"import",
+                   L"",
+                   {{L"Record", Align::Right}, {L"Result"}, {L"Chart or reason", Align::Wrapped}}};
+    const bool several = reports.size() > 1;
+    if (several) {
+        table.columns.insert(table.columns.begin(), {L"File"});
+    }
     for (const data::ImportReport& report : reports) {
-        const std::wstring file = cellText(report.file.filename().string());
+        const auto add = [&](long record, const wchar_t* result, std::wstring text) {
+            present::Row row = {recordCell(record), result, std::move(text)};
+            if (several) {
+                row.insert(row.begin(), cellText(report.file.filename().string()));
+            }
+            table.add(std::move(row));
+        };
         for (const data::ImportNote& note : report.refused) {
-            table.add({file, recordCell(note.record), L"Refused", cellText(note.text)});
+            add(note.record, L"Refused", cellText(note.text));
         }
         for (const data::ImportNote& note : report.remarks) {
-            table.add({file, recordCell(note.record), L"Remark", cellText(note.text)});
+            add(note.record, L"Remark", cellText(note.text));
         }
         for (const core::Chart& chart : report.charts) {
-            table.add({file, L"", L"Added", chart.name});
+            add(0, L"Added", chart.name);
         }
     }
     return table;

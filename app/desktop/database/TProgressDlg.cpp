@@ -49,12 +49,12 @@ TProgressDlg::TProgressDlg(const QString& text, std::function<QString(std::size_
     box->addWidget(count_);
     box->addWidget(buttons);
     connect(work_, &BackgroundWork::progressed, this,
-            [this](qulonglong done, qulonglong total) { show(done, total); });
+            [this](qulonglong done, qulonglong total) { showProgress(done, total); });
     connect(work_, &BackgroundWork::finished, this, [this] {
         hide();
         deleteLater();
     });
-    show(0, 0);
+    showProgress(0, 0);
     QTimer::singleShot(kShownAfter, this, [this] {
         if (work_->running()) {
             setVisible(true);
@@ -62,7 +62,7 @@ TProgressDlg::TProgressDlg(const QString& text, std::function<QString(std::size_
     });
 }
 
-void TProgressDlg::show(std::size_t done, std::size_t total)
+void TProgressDlg::showProgress(std::size_t done, std::size_t total)
 {
     if (countText_) {
         count_->setText(countText_(done));

@@ -30,11 +30,11 @@ public:
         return *work_;
     }
 
+    /// `total` 0 for not known.
+    void showProgress(std::size_t done, std::size_t total);
     void reject() override;
 
 private:
-    void show(std::size_t done, std::size_t total);
-
     std::function<QString(std::size_t)> countText_;
     BackgroundWork* work_;
     QProgressBar* bar_;
