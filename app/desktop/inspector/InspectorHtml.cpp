@@ -68,7 +68,7 @@ QString tableHtml(const present::Table& table)
     if (table.columns.empty() || table.rows.empty()) {
         return {};
     }
-    QString html = QStringLiteral("<table cellspacing='0' cellpadding='2'>");
+    QString html = QStringLiteral("<table cellspacing='0' cellpadding='3'>");
     const bool small = table.columns.size() > kMostColumns;
     if (!table.withoutHeadings()) {
         html += QStringLiteral("<tr>");
@@ -151,15 +151,17 @@ QString inspectionHtml(const present::Inspection& inspection, const QSet<QString
                                   "th { font-weight:normal; color:%2 }</style><h3>%3</h3>")
                        .arg(themeColour(ThemeRole::Accent).name(),
                             themeColour(ThemeRole::Quiet).name(), escaped(inspection.title));
+    // A paragraph of its own, since margins below tables are not kept.
     const int space = QFontMetrics(QGuiApplication::font()).height();
     for (const present::Table& section : inspection.sections) {
         const QString id = toQt(section.id);
         const bool hidden = folded.contains(id);
-        html += QStringLiteral("<p style='margin-top:%5px; margin-bottom:%6px'>"
+        html += QStringLiteral("<p style='margin:0; font-size:%5px'>&nbsp;</p><p "
+                               "style='margin-top:0; margin-bottom:%6px'>"
                                "<b><a style='%1' href='fold:%2'>%3 %4</a></b></p>")
                     .arg(plain, id, hidden ? QStringLiteral("\u25B8") : QStringLiteral("\u25BE"),
                          escaped(section.title))
-                    .arg(space)
+                    .arg(space / 2)
                     .arg(space / 4);
         if (hidden) {
             continue;
