@@ -1,6 +1,8 @@
 // The pages of dashas, panchanga, transits and events.
 #include "app/desktop/pages/PageStrip.h"
 #include "app/desktop/pages/PageView.h"
+#include "app/desktop/pages/PanelFactory.h"
+#include "app/desktop/panels/PanelWidget.h"
 #include "app/desktop/panels/TableView.h"
 #include "app/desktop/timing/DashaTreeModel.h"
 #include "app/desktop/timing/StripView.h"
@@ -9,6 +11,7 @@
 
 #include <QAbstractItemModelTester>
 #include <QAction>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
 #include <QDialogButtonBox>
@@ -114,6 +117,12 @@ TEST_F(TimingPageTest, DashaTreeOpensAtTheSharedDate)
     EXPECT_NEAR(workspace().moment(), kBirth + model->period(running).endAge() * kYear, 0.01);
     settle();
     EXPECT_EQ(tree->currentIndex(), running) << "the place in the tree was lost";
+
+    workspace().setMoment(kBirth + 26.0 * kYear);
+    settle();
+    tree->setCurrentIndex(model->index(0, 0, {}));
+    shown<QAction>("ShowRunningAction")->trigger();
+    EXPECT_EQ(tree->currentIndex(), running);
 
     // Another system for looking leaves the settings, until it is made the standard.
     auto* const system = shown<QComboBox>("DashaSystemComboBox");
@@ -257,6 +266,37 @@ TEST_F(TimingPageTest, EphemerisStripIsDrawnForTheYear)
     const double july = workspace().moment() + 180.0;
     QTest::mouseClick(strip, Qt::LeftButton, {}, strip->placeOf(july));
     EXPECT_NEAR(workspace().moment(), july, 3.0);
+}
+
+TEST_F(TimingPageTest, EphemerisTakesStepsAndZodiacs)
+{
+    present::Panel panel;
+    panel.kind = present::PanelKind::View;
+    panel.content = "ephemeris";
+    const std::unique_ptr<PanelWidget> made(makePanel(workspace(), panel, nullptr));
+    made->show();
+    settle();
+    auto* const table = find<TableView>("PositionsTable", made.get());
+    ASSERT_EQ(table->model()->rowCount(), 31);
+    EXPECT_EQ(table->model()->index(0, 0).data().toString().toStdString(), "2026-01-15");
+    // The Sun had entered sidereal Capricorn on the 14th; tropically it stood at 24 degrees of it.
+    EXPECT_TRUE(table->model()->index(0, 2).data().toString().endsWith("Cp"));
+    find<QCheckBox>("TropicalCheckBox", made.get())->click();
+    settle();
+    EXPECT_TRUE(table->model()->index(0, 2).data().toString().trimmed().startsWith("24"))
+        << table->model()->index(0, 2).data().toString().toStdString();
+    auto* const step = find<QComboBox>("StepComboBox", made.get());
+    step->setCurrentIndex(0);
+    emit step->activated(0);
+    settle();
+    EXPECT_EQ(table->model()->rowCount(), 31 * 144);
+    auto* const span = find<QComboBox>("SpanComboBox", made.get());
+    span->setCurrentIndex(span->count() - 1);
+    emit span->activated(span->currentIndex());
+    settle();
+    EXPECT_EQ(find<QLabel>("NoteLabel", made.get())->text().toStdString(),
+              "The table would be too long: choose a longer step or fewer days.");
+    find<QCheckBox>("TropicalCheckBox", made.get())->click();
 }
 
 TEST_F(TimingPageTest, EventsAndTrialTimesShowWhatChanges)
