@@ -1,8 +1,8 @@
 #include "app/desktop/options/ChangeOptions.h"
 
 #include "app/desktop/database/OpenDatabase.h"
+#include "app/desktop/database/ResearchActions.h"
 #include "app/desktop/options/OptionNotices.h"
-#include "app/desktop/options/OptionsActions.h"
 #include "app/desktop/shell/Ks6main.h"
 #include "app/desktop/shell/TMessages.h"
 #include "data/ResearchDatabase.h"
@@ -32,16 +32,12 @@ void changeOptions(TKSVform1& window, core::Settings wanted)
     TMessages messages;
     settleOptions(wanted, before, workspace.changedPoints(), messages);
     workspace.changeSettings(wanted);
-    const bool moved =
-        data::researchSettingsText(before) != data::researchSettingsText(workspace.settings());
-    if (!moved || !hasResearch(workspace)) {
+    auto* const research = window.findChild<ResearchActions*>();
+    if (research == nullptr || !optionsMovePlanets(before, wanted) || !hasResearch(workspace)) {
         return;
     }
-    if (!wanted.confirmRefresh ||
-        data::agreesToRefreshAfter(before, workspace.settings(), messages)) {
-        if (const auto* const actions = window.findChild<OptionsActions*>()) {
-            actions->refreshResearch();
-        }
+    if (!wanted.confirmRefresh || data::agreesToRefreshAfter(before, wanted, messages)) {
+        research->refreshNow();
     }
 }
 

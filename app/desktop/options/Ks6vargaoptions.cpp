@@ -82,6 +82,9 @@ TVargaOptionsDlg::TVargaOptionsDlg(TKSVform1& window, QWidget* parent)
         placements_->horizontalHeader()->sizeHint().height() +
             placements_->verticalHeader()->length() + 2 * placements_->frameWidth());
 
+    placements_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    placements_->verticalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+
     auto* const buttons =
         optionButtons(this, window_.workspace(), QStringLiteral("TVargaOptionsDlg"));
     auto* const reset = buttons->addButton(tr("Rese&t"), QDialogButtonBox::ResetRole);

@@ -48,18 +48,6 @@ OptionsActions::OptionsActions(TKSVform1& window) : QObject(&window), window_(wi
     connect(&window_.workspace(), &Workspace::settingsChanged, this, &OptionsActions::showSwitches);
 }
 
-void OptionsActions::setResearchRefresh(std::function<void()> refresh)
-{
-    refresh_ = std::move(refresh);
-}
-
-void OptionsActions::refreshResearch() const
-{
-    if (refresh_) {
-        refresh_();
-    }
-}
-
 void OptionsActions::addDialogs()
 {
     const auto command = [this](const Command& row, auto run) {

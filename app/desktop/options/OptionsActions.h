@@ -25,10 +25,6 @@ class OptionsActions : public QObject
 public:
     explicit OptionsActions(TKSVform1& window);
 
-    /// What refreshes the research database of the open charts, after the user agreed to it.
-    void setResearchRefresh(std::function<void()> refresh);
-    void refreshResearch() const;
-
     /// Runs the option wizard when it was never seen.
     void runWizardAtFirstStart();
 
@@ -51,7 +47,6 @@ private:
 
     TKSVform1& window_;
     std::vector<Switch> switches_;
-    std::function<void()> refresh_;
 };
 
 } // namespace kestrav::desktop

@@ -121,7 +121,7 @@ void TColoursDlg::fillRoles()
             roles_->setItem(row, column, item);
         }
     }
-    roles_->setMinimumSize(fontMetrics().averageCharWidth() * 55, fontMetrics().height() * 18);
+    roles_->setMinimumSize(fontMetrics().averageCharWidth() * 64, fontMetrics().height() * 18);
 }
 
 void TColoursDlg::tryOut()

@@ -1,6 +1,6 @@
 #include "app/desktop/options/TOptionWizardForm.h"
 
-#include "app/desktop/database/OpenDatabase.h"
+#include "app/desktop/database/DatabaseActions.h"
 #include "app/desktop/options/ChangeOptions.h"
 #include "app/desktop/options/OptionPreview.h"
 #include "app/desktop/options/SettingEditor.h"
@@ -327,10 +327,10 @@ void TOptionWizardForm::applyDatabase()
         openOwnCharts();
         break;
     case kOpenOther:
-        trigger("OpenDatabaseAction");
+        trigger("OpenAction");
         break;
     case kImport:
-        trigger("ImportAction");
+        trigger("ImportFileAction");
         break;
     default:
         break;
@@ -340,12 +340,7 @@ void TOptionWizardForm::applyDatabase()
 // An existing file of that name is opened as it is.
 void TOptionWizardForm::openOwnCharts()
 {
-    Workspace& workspace = window_.workspace();
-    if (workspace.database().modified()) {
-        workspace.tellProblem(
-            tr("The open charts are not saved. Save them, and run the wizard again."));
-        return;
-    }
+    auto* const actions = window_.findChild<DatabaseActions*>();
     const QDir folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) +
                       QStringLiteral("/Kestrav"));
     const std::filesystem::path path = toPath(folder.filePath(QStringLiteral("My Charts.ksc")));
@@ -353,19 +348,12 @@ void TOptionWizardForm::openOwnCharts()
     std::error_code failed;
     if (!std::filesystem::exists(path, failed)) {
         if (const auto written = core::writeFileSafely(path, {}); !written) {
-            workspace.tellProblem(toQt(written.error().text()));
+            window_.workspace().tellProblem(toQt(written.error().text()));
             return;
         }
     }
-    if (const auto loaded = workspace.database().load(path); !loaded) {
-        workspace.tellProblem(toQt(loaded.error().text()));
-        return;
-    }
-    if (workspace.database().charts().size() > 0) {
-        workspace.showLine(0);
-    } else {
-        workspace.setChartLine(std::nullopt);
-        workspace.tell(tr("%1 is open. Make your first chart with Ctrl+N.").arg(toQt(path)));
+    if (actions != nullptr) {
+        actions->open(path);
     }
 }
 

@@ -162,13 +162,18 @@ TOptionsDlg::Row TOptionsDlg::makeRow(const SettingRow& row, QWidget* parent)
         text->setWordWrap(true);
         text->setBuddy(editor->control());
         grid->addWidget(text, 0, 0);
-        grid->addWidget(editor->widget(), 0, 1);
+        if (row.name != "ayanamsaRow") {
+            grid->addWidget(editor->widget(), 0, 1);
+        }
     }
     if (row.name == "ayanamsaRow") {
-        auto* const edit = new QPushButton(tr("Edit Rows..."), widget);
+        auto* const edit = new QPushButton(tr("&Edit Rows..."), widget);
         edit->setObjectName(QStringLiteral("EditRowsButton"));
         edit->setAutoDefault(false);
-        grid->addWidget(edit, 1, 1, Qt::AlignLeft);
+        auto* const both = new QHBoxLayout;
+        both->addWidget(editor->widget(), 1);
+        both->addWidget(edit);
+        grid->addLayout(both, 0, 1);
         connect(edit, &QPushButton::clicked, this, [this] {
             TCustomAyanamsaDlg dialog(window_.workspace(), settings_, this);
             if (dialog.exec() == QDialog::Accepted) {
@@ -200,7 +205,7 @@ TOptionsDlg::Row TOptionsDlg::makeRow(const SettingRow& row, QWidget* parent)
     described->setObjectName(QStringLiteral("Meaning-") + toQt(row.name));
     described->setWordWrap(true);
     described->setForegroundRole(QPalette::PlaceholderText);
-    grid->addWidget(described, 2, 0, 1, 4);
+    grid->addWidget(described, 1, 0, 1, 4);
     grid->setColumnStretch(0, 3);
     grid->setColumnStretch(1, 3);
 

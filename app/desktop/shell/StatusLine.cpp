@@ -18,6 +18,7 @@
 #include <QStyle>
 #include <QToolButton>
 
+#include <algorithm>
 #include <cmath>
 
 namespace kestrav::desktop
@@ -111,7 +112,7 @@ StatusLine::StatusLine(TKSVform1& window)
         });
     };
     lampCommand(changed_, "ChangePointAction");
-    lampCommand(unsaved_, "SaveDatabaseAction");
+    lampCommand(unsaved_, "SaveAction");
     lampCommand(research_, "RefreshResearchAction");
     showChart();
     showUnsaved();
