@@ -8,6 +8,7 @@
 #include <QMimeData>
 
 #include <algorithm>
+#include <limits>
 
 namespace kestrav::desktop
 {
@@ -76,7 +77,10 @@ void ChartListModel::setResearch(data::LineList research)
 
 std::size_t ChartListModel::lineAt(int row) const
 {
-    return rowAt(row).line;
+    const std::size_t position = shown_[std::size_t(row)];
+    const std::vector<data::ChooserRow>& rows = database_.list().rows;
+    // While the model is about to be reset, the rows are those of another database already.
+    return position < rows.size() ? rows[position].line : std::numeric_limits<std::size_t>::max();
 }
 
 std::optional<int> ChartListModel::positionOf(std::size_t line) const
