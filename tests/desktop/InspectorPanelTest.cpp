@@ -80,7 +80,17 @@ TEST_F(InspectorTest, FollowsTheSelectionAndGoesBackAndForward)
     back->click();
     settle();
     EXPECT_TRUE(text().startsWith(QStringLiteral("Mars")));
-    EXPECT_FALSE(back->isEnabled());
+    // What the page selected when it opened lies before.
+    int before = 0;
+    for (; back->isEnabled() && before < 10; ++before) {
+        back->click();
+    }
+    EXPECT_LT(before, 10) << "the way back has an end";
+    for (; before > 0; --before) {
+        forward->click();
+    }
+    settle();
+    EXPECT_TRUE(text().startsWith(QStringLiteral("Mars")));
     forward->click();
     settle();
     EXPECT_TRUE(text().startsWith(QStringLiteral("House 4, ")));
