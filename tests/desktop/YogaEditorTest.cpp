@@ -206,15 +206,24 @@ TEST_F(YogaEditorTest, BuildsARuleSavesItAndReadsItAgain)
     EXPECT_EQ(desk().yoga()->rule, built);
     click("RemoveButton");
     EXPECT_TRUE(desk().yoga()->rule.ends_with(")"));
-    click("UndoYogaButton");
+    QTest::keyClick(list, Qt::Key_Z, Qt::ControlModifier);
+    settle();
     EXPECT_EQ(desk().yoga()->rule, built);
+    // What is being typed outlives a change of the shared date, and is taken over by saving.
+    auto* const text = find<QLineEdit>("RuleTextEdit", form_);
+    text->setFocus();
+    text->end(false);
+    QTest::keyClicks(text, QStringLiteral("\\Is,,Sun,Sun"));
+    workspace().setMoment(workspace().moment() + 1.0);
+    settle();
+    EXPECT_TRUE(text->text().endsWith(QStringLiteral("Sun,Sun")));
 
     click("SaveFileButton");
     EXPECT_FALSE(desk().isModified(1));
     const auto saved = yoga::readYogaFile(own);
     ASSERT_TRUE(saved.ok()) << saved.error().text();
     ASSERT_EQ(saved.value().yogas.size(), 2U);
-    EXPECT_EQ(saved.value().yogas[1].rule, built);
+    EXPECT_EQ(saved.value().yogas[1].rule, built + "\\Is,,Sun,Sun");
     EXPECT_EQ(saved.value().yogas[1].title, "Pr\u00fcfung");
     EXPECT_EQ(saved.value().yogas[1].interpretation, "Two\nlines");
     EXPECT_EQ(saved.value().yogas[1].chapter, desk().library().yoga({1, 0}).chapter);
@@ -256,6 +265,13 @@ TEST_F(YogaEditorTest, AsksBeforeItDeletesAndKeepsToWhatCanBeUndone)
     EXPECT_TRUE(std::filesystem::exists(ownYogaPath()));
     EXPECT_FALSE(desk().anyModified());
     EXPECT_EQ(TMessages::takeShown().size(), 2U);
+
+    // Another program writes the file.
+    yoga::YogaFile other;
+    other.yogas.resize(5);
+    ASSERT_TRUE(yoga::writeYogaFile(ownYogaPath(), other).ok());
+    desk().lookAtFiles();
+    EXPECT_EQ(desk().library().files()[1].file.yogas.size(), 5U);
 }
 
 TEST_F(YogaEditorTest, TreeMarksWhatHoldsAndOpensFiles)

@@ -337,6 +337,10 @@ void ResearchPanel::refresh()
 
 void ResearchPanel::show(Made made)
 {
+    if (made.table.id != table_->table().id) {
+        // Another table begins in its own order.
+        table_->sortByColumn(-1, Qt::AscendingOrder);
+    }
     table_->setTable(made.table);
     table_->setAccessibleName(title() + QStringLiteral(": ") + toQt(made.table.title));
     chart_->setModel(std::move(made.bars));

@@ -112,7 +112,10 @@ void RuleEditor::makeActions()
         made->setStatusTip(tip);
         // Buttons would leave the dots out.
         made->setIconText(QString(text).remove(QLatin1Char('&')));
-        connect(made, &QAction::triggered, this, handler);
+        connect(made, &QAction::triggered, this, [this, handler] {
+            commit();
+            handler();
+        });
         actions_ += made;
         bar_->addAction(made);
         return made;
@@ -149,6 +152,7 @@ void RuleEditor::setRule(const std::string& rule, bool editable)
         edit_ = yoga::RuleEdit(rule);
         edit_.select(selected);
         outcome_.reset();
+        text_->setModified(false);
     }
     given_ = rule;
     fill();
@@ -189,7 +193,8 @@ void RuleEditor::fill()
     list_->resizeRowsToContents();
     list_->setCurrentCell(edit_.selected() ? int(*edit_.selected()) : -1, 0);
     const QString rule = toQt(core::fromFileBytes(edit_.rule()));
-    if (text_->text() != rule) {
+    // What is being typed is not taken away.
+    if (text_->text() != rule && !text_->isModified()) {
         text_->setText(rule);
         text_->setCursorPosition(0);
     }
@@ -319,6 +324,7 @@ void RuleEditor::DeleteRuleButtonClick()
 void RuleEditor::RuleEditEditingFinished()
 {
     const std::string typed = toUtf8(text_->text().trimmed());
+    text_->setModified(false);
     if (!editable_ || typed == edit_.rule()) {
         return;
     }

@@ -34,9 +34,10 @@ public:
     /// What became of the rule; nothing without a chart.
     void setOutcome(std::optional<yoga::RuleOutcome> outcome);
 
-    [[nodiscard]] const yoga::RuleEdit& edit() const
+    /// Takes over what was typed as text.
+    void commit()
     {
-        return edit_;
+        RuleEditEditingFinished();
     }
     [[nodiscard]] std::vector<present::RuleLine> lines() const;
     /// The commands on the rule, for menus.

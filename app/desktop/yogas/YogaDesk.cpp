@@ -329,6 +329,10 @@ bool YogaDesk::saveAs(std::size_t file, const fs::path& path, core::Messages& me
         }
     }
     const bool same = plainPath(path) == plainPath(saved.path);
+    if (same && isDelivered(file)) {
+        workspace_.tellProblem(tr("Delivered files are to read only; choose another name."));
+        return false;
+    }
     const auto agrees = [&](const std::wstring& question) {
         return messages.show(data::kWarningCaption, question, core::Buttons::YesNo) ==
                core::Answer::Yes;

@@ -12,7 +12,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDragEnterEvent>
-#include <QFormLayout>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -25,6 +24,7 @@
 #include <QScrollBar>
 #include <QSplitter>
 #include <QTabWidget>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <QTreeView>
@@ -219,7 +219,8 @@ QWidget* TYogaTreeForm::makeYogaSide()
     texts_->setObjectName(QStringLiteral("TextsTab"));
     texts_->addTab(interpretation_, tr("&Interpretation"));
     texts_->addTab(comment_, tr("Co&mment"));
-    texts_->setMinimumHeight(fontMetrics().height() * 6);
+    texts_->setMinimumHeight(fontMetrics().height() * 5);
+    rule_->setMinimumHeight(fontMetrics().height() * 13);
     delivered_->setObjectName(QStringLiteral("DeliveredFrame"));
     delivered_->setFrameShape(QFrame::StyledPanel);
     copy_->setObjectName(QStringLiteral("CopyYogaButton"));
@@ -229,9 +230,18 @@ QWidget* TYogaTreeForm::makeYogaSide()
     auto* const strip = new QHBoxLayout(delivered_);
     strip->addWidget(why, 1);
     strip->addWidget(copy_);
-    auto* const form = new QFormLayout;
-    form->addRow(tr("&Title:"), title_);
-    form->addRow(tr("&Chapter:"), chapter_);
+    const int gap = fontMetrics().height() / 3;
+    strip->setContentsMargins(gap, gap / 2, gap / 2, gap / 2);
+    const auto label = [this](const QString& text, QWidget* buddy) {
+        auto* const made = new QLabel(text, this);
+        made->setBuddy(buddy);
+        return made;
+    };
+    auto* const names = new QHBoxLayout;
+    names->addWidget(label(tr("&Title:"), title_));
+    names->addWidget(title_, 3);
+    names->addWidget(label(tr("&Chapter:"), chapter_));
+    names->addWidget(chapter_, 2);
     auto* const below = new QSplitter(Qt::Vertical, side);
     below->setObjectName(QStringLiteral("RuleSplitter"));
     below->addWidget(rule_);
@@ -242,7 +252,7 @@ QWidget* TYogaTreeForm::makeYogaSide()
     auto* const box = new QVBoxLayout(side);
     box->setContentsMargins({});
     box->addWidget(delivered_);
-    box->addLayout(form);
+    box->addLayout(names);
     box->addWidget(holds_);
     box->addWidget(below, 1);
     connect(title_, &QLineEdit::editingFinished, this, &TYogaTreeForm::commit);
@@ -343,10 +353,13 @@ std::shared_ptr<const TYogaTreeForm::Sky> TYogaTreeForm::sky() const
                  : nullptr;
 }
 
+// Fields stay as they are: what is being typed does not depend on the chart.
 void TYogaTreeForm::refresh()
 {
     evaluate();
-    showYoga();
+    if (desk_.yoga() != nullptr) {
+        explain();
+    }
 }
 
 void TYogaTreeForm::evaluate()
@@ -427,7 +440,14 @@ void TYogaTreeForm::showSelectedInTree()
         filling_ = true;
         tree_->setCurrentIndex(index);
         filling_ = false;
+        scrollToSelected();
     }
+}
+
+// After the sizes of everything have settled.
+void TYogaTreeForm::scrollToSelected()
+{
+    QTimer::singleShot(0, tree_, [this] { tree_->scrollTo(tree_->currentIndex()); });
 }
 
 void TYogaTreeForm::showYoga()
@@ -495,6 +515,14 @@ void TYogaTreeForm::explain()
 }
 
 void TYogaTreeForm::commit()
+{
+    commitTexts();
+    if (!filling_) {
+        rule_->commit();
+    }
+}
+
+void TYogaTreeForm::commitTexts()
 {
     const yoga::Yoga* const yoga = desk_.yoga();
     const auto& place = desk_.selected();
@@ -592,6 +620,9 @@ void TYogaTreeForm::resizeEvent(QResizeEvent* event)
         width() < fontMetrics().height() * 50 ? Qt::Vertical : Qt::Horizontal;
     if (parts_->orientation() != wanted) {
         parts_->setOrientation(wanted);
+        const int whole = wanted == Qt::Vertical ? height() : width();
+        parts_->setSizes({whole * 2 / 5, whole * 3 / 5});
+        scrollToSelected();
     }
 }
 

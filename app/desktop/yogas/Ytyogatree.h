@@ -66,10 +66,12 @@ private:
     void evaluate();
     void fillTree();
     void showSelectedInTree();
+    void scrollToSelected();
     void selectFirst();
     void showYoga();
     void explain();
     void commit();
+    void commitTexts();
     void enableActions();
     void ExpandButtonClick();
     void ContractButtonClick();
