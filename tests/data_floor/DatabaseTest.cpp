@@ -61,6 +61,9 @@ TEST_F(DatabaseTest, UneditedLinesGoBackByteForByte)
     database.setTag(0, L'A');
     EXPECT_EQ(textOf(database), "A" + odd + "\r\n" + odd + "\r\nadded\r\n");
     EXPECT_TRUE(database.modified());
+    database.insertLine(1, "between");
+    database.insertLine(4, "last");
+    EXPECT_EQ(textOf(database), "A" + odd + "\r\nbetween\r\n" + odd + "\r\nadded\r\nlast\r\n");
 }
 
 TEST_F(DatabaseTest, OpeningTellsWhatIsWrong)
