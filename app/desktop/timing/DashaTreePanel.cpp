@@ -15,6 +15,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QToolButton>
 #include <QTreeView>
@@ -67,7 +68,8 @@ DashaTreePanel::DashaTreePanel(Workspace& workspace, present::Panel panel, QWidg
     connect(makeStandard_, &QToolButton::clicked, this, &DashaTreePanel::MakeStandardButtonClick);
     balance_->setObjectName(QStringLiteral("BalanceLabel"));
     balance_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    balance_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    balance_->setWordWrap(true);
+    balance_->setContentsMargins(fontMetrics().height() / 3, 0, 0, fontMetrics().height() / 3);
     note_->setObjectName(QStringLiteral("NoteLabel"));
     note_->setWordWrap(true);
     note_->setMargin(fontMetrics().height() / 3);
@@ -91,12 +93,12 @@ DashaTreePanel::DashaTreePanel(Workspace& workspace, present::Panel panel, QWidg
     bar->setSpacing(gap);
     bar->addWidget(system_);
     bar->addWidget(makeStandard_);
-    bar->addSpacing(gap);
-    bar->addWidget(balance_, 1);
+    bar->addStretch(1);
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(0);
     layout->addLayout(bar);
+    layout->addWidget(balance_);
     layout->addWidget(note_);
     layout->addWidget(tree_, 1);
     setFocusProxy(tree_);
@@ -210,6 +212,7 @@ void DashaTreePanel::openAtMoment()
     if (!path.isEmpty() && (lost || !tree_->hasFocus())) {
         tree_->setCurrentIndex(path.back());
         tree_->scrollTo(path.back(), QAbstractItemView::PositionAtCenter);
+        tree_->horizontalScrollBar()->setValue(0); // the names, wherever there is little room
     }
     tree_->viewport()->update();
 }
