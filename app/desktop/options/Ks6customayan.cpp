@@ -69,6 +69,7 @@ TCustomAyanamsaDlg::TCustomAyanamsaDlg(Workspace& workspace, core::Settings sett
     for (const core::AyanamsaRow& each : settings_.ayanamsaTable) {
         rows_->addItem(toQt(each.nameText()));
     }
+    rows_->setMinimumWidth(rows_->sizeHintForColumn(0) + 2 * fontMetrics().height());
     rows_->setMinimumHeight(rows_->sizeHintForRow(0) * (core::kAyanamsaRows + 1));
     name_->setMaxLength(int(core::AyanamsaRow{}.name.size()));
     today_->setObjectName(QStringLiteral("TodayLabel"));
