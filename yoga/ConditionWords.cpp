@@ -39,6 +39,17 @@ std::wstring repeatedText(const Parameter& parameter, std::uint64_t list)
     }
 }
 
+// What a test takes for a plain word that was left out; nothing where the word only narrows it.
+std::wstring wordLeftOut(const Parameter& parameter)
+{
+    for (const PlainWord usual : {kWordGraha, kWordDay, kWordCompound}) {
+        if ((parameter.words >> unsigned(usual) & 1U) != 0) {
+            return codeWords((int(WordClass::Plain) << 27) | usual);
+        }
+    }
+    return {};
+}
+
 std::wstring parameterText(const Arguments& arguments, std::size_t index)
 {
     const Parameter& parameter = arguments.kind->parameters[index];
@@ -54,7 +65,11 @@ std::wstring parameterText(const Arguments& arguments, std::size_t index)
         return value < 0 ? explaining::nameOf(core::kAscendant) : codeWords(value);
     }
     if (parameter.type == ParameterType::Word) {
-        return value < 0 ? std::wstring() : codeWords((int(WordClass::Plain) << 27) | value);
+        return value < 0 ? wordLeftOut(parameter)
+                         : codeWords((int(WordClass::Plain) << 27) | value);
+    }
+    if (value >= 0 && value < parameter.lowest) {
+        return {}; // a house that is not asked for
     }
     return value < 0 ? L"of the settings" : std::to_wstring(value);
 }

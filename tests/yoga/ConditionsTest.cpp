@@ -297,6 +297,12 @@ TEST(ConditionKinds, sayWhy)
     EXPECT_EQ(reason("InSign,,Gul,Leo", chart), L"Gulika has no position");
     EXPECT_EQ(reason("Parivartana,", chartOf("Asc 1 Mar 4 Moo 1")),
               L"Houses 1 and 4 exchange their lords Mars and the Moon (maha)");
+    // Words that were left out are said as they are tested, or not at all.
+    EXPECT_EQ(conditionWords(conditionOf("DayBirth")), L"The birth was by day");
+    EXPECT_EQ(conditionWords(conditionOf("Mutual,,Mar,Sat")),
+              L"Mars and Saturn aspect each other: a full graha aspect, at least 0");
+    EXPECT_EQ(conditionWords(conditionOf("Parivartana,,maha")),
+              L"Two houses exchange their lords: maha");
     EXPECT_EQ(conditionWords(conditionOf("InHouse,,any.ben-Moo,Moo,ken")),
               L"One of the natural benefics besides the Moon is in 1, 4, 7 or 10 from the Moon");
     EXPECT_EQ(conditionWords(conditionOf("*-1,Nava,Nava,Mar,,,50,!,exa")),
