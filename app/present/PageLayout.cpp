@@ -266,7 +266,7 @@ const std::vector<std::string_view>& panelViews()
         "inspector",       "varga-grid", "bindu-grid", "transit-listing",
         "ephemeris-strip", "ephemeris",  "yoga-tree",  "natives",
         "research",        "compare",    "events",     "trial-times",
-        "report",          "world-map",  "notes",      "heat"};
+        "report",          "notes",      "heat"};
     return kViews;
 }
 

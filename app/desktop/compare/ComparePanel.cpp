@@ -163,7 +163,6 @@ std::vector<present::Block> ComparePanel::blocks()
 
 void ComparePanel::showTable(TableView& view, present::Table table)
 {
-    view.setAccessibleName(toQt(table.title));
     view.setTable(table);
 }
 

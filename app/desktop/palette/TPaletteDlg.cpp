@@ -27,6 +27,7 @@ namespace
 {
 
 constexpr std::size_t kMostShown = 60;
+constexpr int kLongName = 4;
 constexpr int kEntryRole = Qt::UserRole;
 
 void addCommands(TKSVform1& window, std::vector<PaletteEntry>& entries)
@@ -81,7 +82,7 @@ void addPoints(TKSVform1& window, std::vector<PaletteEntry>& entries)
         return;
     }
     for (int point = core::kAscendant; point <= core::kKetu; ++point) {
-        const QString name = toQt(core::PointName(0, point)).trimmed();
+        const QString name = toQt(core::PointName(kLongName, point)).trimmed();
         for (int varga = 0; varga < core::kVargaCount; ++varga) {
             entries.push_back({TPaletteDlg::tr("%1 in %2 (D-%3)")
                                    .arg(name, vargaTitle(varga))

@@ -45,6 +45,8 @@ TColumnsDlg::TColumnsDlg(const QStringList& headings, const std::vector<std::siz
     filter_->setPlaceholderText(tr("Part of a heading"));
     filter_->setClearButtonEnabled(true);
     available_->setObjectName(QStringLiteral("AvailableList"));
+    available_->setAccessibleName(tr("Columns that are not shown"));
+    shown_->setAccessibleName(tr("Columns that are shown"));
     shown_->setObjectName(QStringLiteral("ShownList"));
     for (QListWidget* const list : {available_, shown_}) {
         list->setSelectionMode(QAbstractItemView::ExtendedSelection);

@@ -46,6 +46,9 @@ TableView::TableView(QWidget* parent) : QTableView(parent), model_(new TableMode
 void TableView::setTable(const present::Table& table)
 {
     model_->setTable(table);
+    if (!table.title.empty() || accessibleName().isEmpty()) {
+        setAccessibleName(table.title.empty() ? tr("Table") : toQt(table.title));
+    }
     horizontalHeader()->setVisible(!table.withoutHeadings());
     const int sorted = horizontalHeader()->sortIndicatorSection();
     if (sorted >= 0 && sorted < model_->columnCount()) {
