@@ -76,8 +76,7 @@ ComparePanel::ComparePanel(Workspace& workspace, present::Panel panel, QWidget* 
         connect(view, &TableView::linkActivated, this, &ComparePanel::follow);
     }
     connect(choose_, &QPushButton::clicked, this, [this] {
-        if (auto* const action =
-                window()->findChild<QAction*>(QStringLiteral("CompareAction"))) {
+        if (auto* const action = window()->findChild<QAction*>(QStringLiteral("CompareAction"))) {
             action->trigger();
         }
     });
