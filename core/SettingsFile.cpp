@@ -88,6 +88,11 @@ void decodeRecord(std::span<const std::uint8_t> bytes, AyanamsaRow& row)
 
 } // namespace
 
+bool hasSettingsMark(std::span<const std::uint8_t> bytes)
+{
+    return bytes.size() >= sizeof(double) && readDouble(bytes, 0) == kSettingsMark;
+}
+
 StoredSettings decodeSettings(std::span<const std::uint8_t> bytes)
 {
     StoredSettings stored;

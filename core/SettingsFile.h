@@ -32,6 +32,10 @@ struct StoredSettings
 /// fields and records that are missing take their defaults.
 [[nodiscard]] StoredSettings decodeSettings(std::span<const std::uint8_t> bytes);
 
+/// Whether the bytes begin with the mark of the layout; without it decodeSettings gives the
+/// defaults.
+[[nodiscard]] bool hasSettingsMark(std::span<const std::uint8_t> bytes);
+
 /// The bytes of a settings file.
 [[nodiscard]] std::vector<std::uint8_t> encodeSettings(const StoredSettings& stored);
 

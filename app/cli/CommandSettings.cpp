@@ -3,7 +3,6 @@
 #include "app/cli/Console.h"
 #include "core/DisplayFlags.h"
 #include "core/Files.h"
-#include "core/LittleEndian.h"
 #include "core/Locations.h"
 
 #include <cassert>
@@ -24,12 +23,6 @@ using core::Error;
 using core::Result;
 
 constexpr std::uintmax_t kLargestFile = 1U << 20U;
-
-// Whether the bytes begin with the mark of the layout.
-bool hasMark(const std::vector<std::uint8_t>& bytes)
-{
-    return bytes.size() >= sizeof(double) && core::readDouble(bytes, 0) == core::kSettingsMark;
-}
 
 bool mayExist(const fs::path& path)
 {
@@ -82,7 +75,7 @@ Result<core::StoredSettings> loadSettings(const Arguments& arguments, FileNeed n
     if (!bytes) {
         return bytes.error();
     }
-    if (!hasMark(bytes.value())) {
+    if (!core::hasSettingsMark(bytes.value())) {
         console.warning(path.string() + ": is damaged or no settings file; the defaults are used");
     }
     return core::decodeSettings(bytes.value());

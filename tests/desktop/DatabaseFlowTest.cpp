@@ -5,6 +5,7 @@
 #include "app/desktop/database/OpenFirst.h"
 #include "app/desktop/database/RecentFiles.h"
 #include "app/desktop/database/ResearchActions.h"
+#include "app/desktop/pages/PageStrip.h"
 #include "app/desktop/start/ProgramOptions.h"
 #include "data/FileStamp.h"
 #include "data/ResearchDatabase.h"
@@ -20,6 +21,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTreeView>
@@ -183,6 +185,38 @@ TEST_F(DatabaseFlowTest, FilterOpenRenameTagDeleteUndoAndSave)
     EXPECT_NE(expected[newton].find("\"Aaron 'Newton'\""), std::string::npos);
     EXPECT_EQ(fileLines(sample_), expected);
     EXPECT_EQ(fileLines(inHome("Sample.BAK"))[newton].substr(0, 2), "A\t");
+}
+
+TEST_F(DatabaseFlowTest, NotesTypedInThePanelAreNotLost)
+{
+    auto* const notes = find<QPlainTextEdit>("NotesEdit", &window().pages());
+    auto* const keep = find<QPushButton>("KeepButton", &window().pages());
+    ASSERT_TRUE(notes != nullptr && keep != nullptr);
+    const std::string before(database().charts().line(0));
+    const std::string second(database().charts().line(1));
+
+    // Another chart is opened before the notes were kept.
+    notes->setPlainText(QStringLiteral("First \"line\"\nsecond line"));
+    notes->document()->setModified(true);
+    EXPECT_TRUE(keep->isEnabled());
+    ASSERT_TRUE(workspace().showLine(1));
+    settle();
+    EXPECT_EQ(database().record(0)->identity.notes, L"First 'line'\r\nsecond line");
+    EXPECT_EQ(database().charts().line(1), second);
+    command("UndoAction");
+    EXPECT_EQ(database().charts().line(0), before);
+
+    // A bar is refused in words; a file that is saved holds what was typed all the same.
+    notes->setPlainText(QStringLiteral("one|two"));
+    notes->document()->setModified(true);
+    EXPECT_FALSE(keep->isEnabled());
+    EXPECT_EQ(find<QLabel>("NotesNoteLabel", &window().pages())->text(),
+              QStringLiteral("Notes cannot hold the character | because it stands for a line break "
+                             "in the file."));
+    command("SaveAction");
+    EXPECT_EQ(database().record(1)->identity.notes, L"one/two");
+    EXPECT_EQ(fileLines(sample_)[1], database().charts().line(1));
+    EXPECT_EQ(workspace().chart()->chart.identity.notes, L"one/two");
 }
 
 TEST_F(DatabaseFlowTest, QuestionsCanBeSwitchedOff)

@@ -112,15 +112,15 @@ PageActions::PageActions(TKSVform1& window) : QObject(&window), window_(window)
          {},
          tr("Brings the page back as it was saved or delivered")},
         &PageActions::ResetActionTriggered);
-    add({"ResetPagesAction", tr("Reset &All Pages"), {}, tr("Brings back the delivered pages")},
+    add({"ResetPagesAction", tr("R&eset All Pages"), {}, tr("Brings back the delivered pages")},
         &PageActions::ResetAllActionTriggered);
     add({"ClosePageAction", tr("C&lose This Page"), Keys(tr("Ctrl+W"))},
         &PageActions::CloseActionTriggered);
     window_.menu(MenuName::Pages)->addSeparator();
-    QAction* const undo = undo_.createUndoAction(this, tr("Undo Page Change:"));
+    QAction* const undo = undo_.createUndoAction(this, tr("&Undo Page Change:"));
     undo->setObjectName(QStringLiteral("UndoPageAction"));
     undo->setShortcut(Keys(tr("Ctrl+Alt+Z")));
-    QAction* const redo = undo_.createRedoAction(this, tr("Redo Page Change:"));
+    QAction* const redo = undo_.createRedoAction(this, tr("Re&do Page Change:"));
     redo->setObjectName(QStringLiteral("RedoPageAction"));
     redo->setShortcut(Keys(tr("Ctrl+Alt+Shift+Z")));
     window_.menu(MenuName::Pages)->addActions({undo, redo});

@@ -3,6 +3,7 @@
 #include "app/desktop/pages/PageView.h"
 #include "app/desktop/shell/Convert.h"
 
+#include <QProxyStyle>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QVBoxLayout>
@@ -13,6 +14,28 @@
 namespace kestrav::desktop
 {
 
+namespace
+{
+
+constexpr int kTabSpace = 14; ///< of logical pixels beside the name of a page, both sides together
+
+// Tabs with less space beside their names than usual, so that more pages are in reach.
+class TightTabs : public QProxyStyle
+{
+public:
+    TightTabs() : QProxyStyle(QStringLiteral("Fusion"))
+    {}
+
+    int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                    const QWidget* widget) const override
+    {
+        return metric == PM_TabBarTabHSpace ? kTabSpace
+                                            : QProxyStyle::pixelMetric(metric, option, widget);
+    }
+};
+
+} // namespace
+
 PageStrip::PageStrip(Workspace& workspace, QWidget* parent)
     : QWidget(parent), workspace_(workspace), tabs_(new QTabBar(this)),
       stack_(new QStackedWidget(this))
@@ -20,6 +43,9 @@ PageStrip::PageStrip(Workspace& workspace, QWidget* parent)
     setObjectName(QStringLiteral("PageStrip"));
     tabs_->setObjectName(QStringLiteral("PageTabs"));
     tabs_->setAccessibleName(tr("Pages"));
+    auto* const tight = new TightTabs;
+    tight->setParent(tabs_);
+    tabs_->setStyle(tight);
     tabs_->setMovable(true);
     tabs_->setDocumentMode(true);
     tabs_->setExpanding(false);

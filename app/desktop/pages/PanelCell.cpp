@@ -12,6 +12,8 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
+#include <QPainter>
+#include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -23,16 +25,31 @@ namespace
 
 constexpr int kZoomStep = 10;
 
-// What the choosers of the bar show at least; their lists show everything.
-constexpr int kVargaLetters = 8;
-constexpr int kStyleLetters = 5;
+// What the choosers of the bar show where a cell is narrow; their lists show everything.
+constexpr int kFewestLetters = 9;
 
-void leaveRoom(QComboBox& chooser, int letters)
+void leaveRoom(QComboBox& chooser)
 {
-    chooser.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    chooser.setMinimumContentsLength(letters);
-    chooser.view()->setMinimumWidth(chooser.fontMetrics().averageCharWidth() * 3 * letters);
+    chooser.setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    chooser.setMinimumWidth(chooser.fontMetrics().averageCharWidth() * kFewestLetters);
+    chooser.view()->setMinimumWidth(chooser.view()->sizeHintForColumn(0));
 }
+
+// Ends in dots where there is too little room; its tip says everything.
+class CaptionText : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        QPainter painter(this);
+        style()->drawItemText(
+            &painter, rect(), Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
+            fontMetrics().elidedText(text(), Qt::ElideRight, width()), foregroundRole());
+    }
+};
 
 QToolButton* barButton(const QString& text, const QString& name, const QString& tip,
                        QWidget* parent)
@@ -50,7 +67,7 @@ QToolButton* barButton(const QString& text, const QString& name, const QString& 
 
 PanelCell::PanelCell(Workspace& workspace, const present::Panel& panel, QWidget* parent)
     : QFrame(parent), workspace_(workspace), panel_(makePanel(workspace, panel, this)),
-      caption_(new QLabel(this))
+      caption_(new CaptionText(this))
 {
     setFrameShape(StyledPanel);
     setObjectName(QStringLiteral("PanelCell"));
@@ -74,7 +91,7 @@ PanelCell::PanelCell(Workspace& workspace, const present::Panel& panel, QWidget*
             varga_->addItem(vargaTitle(varga));
         }
         varga_->setFrame(false);
-        leaveRoom(*varga_, kVargaLetters);
+        leaveRoom(*varga_);
         connect(varga_, &QComboBox::activated, this, [this](int varga) {
             panel_->setVarga(varga);
             emit changed();
@@ -92,7 +109,7 @@ PanelCell::PanelCell(Workspace& workspace, const present::Panel& panel, QWidget*
                 toQt(present::diagramStyleTitle(present::DiagramStyle(style))).section(' ', 0, 0));
         }
         style_->setFrame(false);
-        leaveRoom(*style_, kStyleLetters);
+        leaveRoom(*style_);
         connect(style_, &QComboBox::activated, this, [this](int index) {
             panel_->setStyle(index == 0 ? std::nullopt
                                         : std::optional(present::DiagramStyle(index - 1)));
@@ -147,8 +164,17 @@ void PanelCell::showCaption()
 {
     const QString text = captionText();
     // Where the chooser beside it says the same, the caption would only take room.
-    const bool said = varga_ != nullptr && text == varga_->itemText(panel_->panel().varga);
-    caption_->setText(said ? QString() : text);
+    QString shown = text;
+    if (varga_ != nullptr) {
+        const QString said = varga_->itemText(panel_->panel().varga);
+        if (text == said) {
+            shown.clear();
+        } else if (text.startsWith(said + QLatin1String(", "))) {
+            shown = text.mid(said.size() + 2);
+            shown.front() = shown.front().toUpper();
+        }
+    }
+    caption_->setText(shown);
     caption_->setToolTip(text);
     panel_->setAccessibleName(text);
     if (varga_ != nullptr) {

@@ -94,8 +94,9 @@ void keepPages(const PageStrip& pages)
     state.setValue("window/page", pages.current());
 }
 
-bool restorePages(PageStrip& pages)
+std::vector<std::string> restorePages(PageStrip& pages)
 {
+    std::vector<std::string> problems;
     QSettings& state = stateOfWindow();
     std::vector<present::PageLayout> layouts;
     std::vector<QByteArray> sizes;
@@ -106,18 +107,20 @@ bool restorePages(PageStrip& pages)
         if (layout) {
             layouts.push_back(std::move(layout.value()));
             sizes.push_back(state.value("sizes").toByteArray());
+        } else {
+            problems.push_back("a page of the last run: " + layout.error().text());
         }
     }
     state.endArray();
     if (layouts.empty()) {
-        return false;
+        return problems;
     }
     pages.setPages(std::move(layouts));
     for (std::size_t i = 0; i < sizes.size(); ++i) {
         pages.setSizes(int(i), sizes[i]);
     }
     pages.show(state.value("window/page").toInt());
-    return true;
+    return problems;
 }
 
 } // namespace kestrav::desktop

@@ -26,9 +26,11 @@ class PageStrip;
 /// The file name of a page: its letters and digits, others as hyphens.
 [[nodiscard]] std::string pageFileName(const std::string& name);
 
-/// Keeps the pages with the sizes of their cells for the next run, and brings them back; false
-/// when nothing usable was kept, and then nothing changes.
+/// Keeps the pages with the sizes of their cells for the next run.
 void keepPages(const PageStrip& pages);
-bool restorePages(PageStrip& pages);
+
+/// Brings the kept pages back. Pages that cannot be used are left out, with a sentence each; when
+/// none can be used nothing changes.
+std::vector<std::string> restorePages(PageStrip& pages);
 
 } // namespace kestrav::desktop

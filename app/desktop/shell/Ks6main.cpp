@@ -308,7 +308,9 @@ void TKSVform1::restoreSession()
         right_->setVisible(state.value("window/right", true).toBool());
     }
     dateBar_->setVisible(state.value("window/dateBar", true).toBool());
-    restorePages(*pages_);
+    for (const std::string& problem : restorePages(*pages_)) {
+        workspace_.tellProblem(toQt(problem));
+    }
 }
 
 void TKSVform1::FormClose()

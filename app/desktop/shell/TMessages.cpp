@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QStringList>
 
+#include <cstdio>
 #include <deque>
 #include <utility>
 
@@ -25,6 +26,7 @@ using core::Buttons;
 struct Queue
 {
     bool inUse = false;
+    bool terminal = false;
     std::deque<Answer> answers;
     std::deque<QString> texts;
     std::vector<ShownMessage> shown;
@@ -47,9 +49,13 @@ std::optional<Item> takeFirst(std::deque<Item>& items)
     return first;
 }
 
-// Whether a test answers; then the text is noted.
+// Whether nobody is asked: a test answers, and the text is noted for it, or there is no user.
 bool answered(const QString& caption, const QString& text, Buttons buttons)
 {
+    if (queue().terminal) {
+        std::fprintf(stderr, "kestrav: %s: %s\n", toUtf8(caption).c_str(), toUtf8(text).c_str());
+        return true;
+    }
     if (queue().inUse) {
         queue().shown.push_back({caption, text, buttons});
     }
@@ -177,6 +183,11 @@ std::optional<QString> TMessages::text(QWidget* parent, const QString& caption,
     const QString typed =
         QInputDialog::getText(parent, caption, prompt, QLineEdit::Normal, begin, &accepted);
     return accepted ? std::optional(typed) : std::nullopt;
+}
+
+void TMessages::answerOnTerminal()
+{
+    queue().terminal = true;
 }
 
 void TMessages::answerFromQueue()

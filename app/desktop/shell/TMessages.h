@@ -44,6 +44,10 @@ public:
     static std::optional<QString> text(QWidget* parent, const QString& caption,
                                        const QString& prompt, const QString& begin = {});
 
+    /// From now on messages are written to standard error and questions are declined: for runs
+    /// without a user.
+    static void answerOnTerminal();
+
     /// From now on nothing is shown: boxes take the prepared answers in their order, the last ones
     /// Cancel or No; questions for files and texts take the prepared texts, and then nothing.
     static void answerFromQueue();

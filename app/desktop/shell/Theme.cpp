@@ -2,9 +2,10 @@
 
 #include <QApplication>
 #include <QFont>
+#include <QPainter>
 #include <QPalette>
-#include <QStyle>
-#include <QStyleFactory>
+#include <QProxyStyle>
+#include <QStyleOption>
 
 #include <array>
 
@@ -81,6 +82,41 @@ QPalette paletteOf(bool dark)
 }
 
 constexpr int kMiddle = 128;
+constexpr char kStyleName[] = "kestrav-fusion";
+
+// In dark windows the frames of empty check boxes and radio buttons would be darker than the
+// window and not be seen.
+class FramedStyle : public QProxyStyle
+{
+public:
+    FramedStyle() : QProxyStyle(QStringLiteral("Fusion"))
+    {
+        setObjectName(QLatin1String(kStyleName));
+    }
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override
+    {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        const bool box = element == PE_IndicatorCheckBox;
+        if (!isDark() || (!box && element != PE_IndicatorRadioButton)) {
+            return;
+        }
+        const bool enabled = option->state.testFlag(State_Enabled);
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setBrush(Qt::NoBrush);
+        painter->setPen(enabled ? themeColour(ThemeRole::Quiet)
+                                : option->palette.color(QPalette::Mid));
+        const QRectF frame = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
+        if (box) {
+            painter->drawRect(frame);
+        } else {
+            painter->drawEllipse(frame);
+        }
+        painter->restore();
+    }
+};
 
 } // namespace
 
@@ -91,9 +127,8 @@ void applyTheme(const core::Settings& settings)
         QApplication::palette().color(QPalette::Window).lightness() < kMiddle;
     static const QFont systemFont = QApplication::font();
     if (QApplication::style() == nullptr ||
-        QApplication::style()->objectName().compare(QLatin1String("fusion"), Qt::CaseInsensitive) !=
-            0) {
-        QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+        QApplication::style()->objectName() != QLatin1String(kStyleName)) {
+        QApplication::setStyle(new FramedStyle);
     }
     const bool dark = settings.colourScheme == int(Scheme::System)
                           ? systemIsDark

@@ -11,6 +11,8 @@
 #include "app/desktop/shell/Theme.h"
 #include "app/desktop/start/Screenshot.h"
 #include "app/desktop/start/SingleInstance.h"
+#include "core/FileText.h"
+#include "core/Files.h"
 #include "core/Locations.h"
 #include "core/SettingsFile.h"
 
@@ -31,6 +33,7 @@ namespace
 {
 
 constexpr int kFailed = 1;
+constexpr std::uintmax_t kLargestSettings = 1U << 20U;
 
 // Tells what is the matter with the program data file. Its absence ends the program as if nothing
 // had happened, as it always did; damage is a failure.
@@ -45,15 +48,28 @@ int reportNoData(const astro::LoadResult& loaded, TMessages& messages)
     return kFailed;
 }
 
+// The settings of the file, and the defaults with a warning where it cannot be used.
+core::StoredSettings storedSettings(const std::filesystem::path& path, TMessages& messages)
+{
+    std::error_code problem;
+    if (!std::filesystem::exists(path, problem) && !problem) {
+        return {};
+    }
+    const auto bytes = core::readFile(path, kLargestSettings);
+    const bool usable = bytes && core::hasSettingsMark(bytes.value());
+    if (!usable) {
+        const std::string what =
+            bytes ? path.string() + ": is damaged or no settings file" : bytes.error().text();
+        messages.notice(L"Warning", core::fromFileBytes(what) +
+                                        L"\nThe settings of a new installation are used.");
+    }
+    return usable ? core::decodeSettings(bytes.value()) : core::StoredSettings{};
+}
+
 core::StoredSettings settingsForRun(const std::filesystem::path& path,
                                     const ProgramOptions& options, TMessages& messages)
 {
-    core::Result<core::StoredSettings> stored = core::readSettingsFile(path);
-    if (!stored) {
-        messages.notice(L"Warning", core::fromFileBytes(stored.error().text()) +
-                                        L"\nThe settings of a new installation are used.");
-    }
-    core::StoredSettings settings = stored ? std::move(stored.value()) : core::StoredSettings{};
+    core::StoredSettings settings = storedSettings(path, messages);
     if (options.scheme) {
         settings.settings.colourScheme = *options.scheme == "dark" ? 2 : 1;
     }
@@ -166,6 +182,9 @@ int runWindow(int& count, char** words, const ProgramOptions& options)
         return 0;
     }
     TMessages messages;
+    if (options.batch || options.screenshot) {
+        TMessages::answerOnTerminal();
+    }
     const std::filesystem::path settingsPath = options.settingsFile
                                                    ? std::filesystem::path(*options.settingsFile)
                                                    : core::settingsFilePath();
