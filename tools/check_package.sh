@@ -68,7 +68,7 @@ for file in "${expected[@]}"; do
     [ -e "$file" ] || fail "the package lacks ${file#"$root"}"
 done
 find "$root" -type f | sed "s#^$root/usr/##" | sort >"$build/package.list"
-tar tzf "$archive" | grep -v '/$' | sed 's#^[^/]*/##' | sort >"$build/archive.list"
+tar tzf "$archive" | grep -v '/$' | sed 's#^[^/]*/##; s#^usr/##' | sort >"$build/archive.list"
 diff "$build/package.list" "$build/archive.list" || fail "package and archive differ"
 
 # What the desktop and the shells read is sound.
