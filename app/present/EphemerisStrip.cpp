@@ -86,7 +86,10 @@ public:
             signs = std::max(signs, widthOf(core::SignName2(sign), options_));
         }
         const double gap = 0.5 * font;
-        graph_.axis = {subject_.from, subject_.to, signs + gap, options_.width - names - gap};
+        natalLeft_ = signs + gap;
+        const double natal = subject_.natal != nullptr ? names + gap : 0.0;
+        graph_.axis = {subject_.from, subject_.to, natalLeft_ + natal,
+                       options_.width - names - gap};
         graph_.bottom = options_.height - kAxisHeight * font;
         if (!(graph_.axis.right > graph_.axis.left) || !(graph_.bottom > 0.0) ||
             !(subject_.to > subject_.from)) {
@@ -119,7 +122,7 @@ private:
         for (int sign = 1; sign <= 12; ++sign) {
             const double y = graph_.yOf(30.0 * sign - 15.0);
             graph_.list.texts.push_back({std::wstring(core::SignName2(sign)),
-                                         {0.0, y - 0.5 * size, axis.left, y + 0.5 * size},
+                                         {0.0, y - 0.5 * size, natalLeft_, y + 0.5 * size},
                                          size,
                                          ColourRole::Label,
                                          -1,
@@ -223,11 +226,8 @@ private:
             graph_.list.lines.push_back(line);
             names.push_back({body, longitude, y});
         }
-        double width = 0.0;
-        for (const Name& name : names) {
-            width = std::max(width, widthOf(nameOf(name.body), options_));
-        }
-        addNames(names, 1, axis.left, axis.left + width + 0.5 * options_.fontSize);
+        // Between the signs and the graph, so that they cover no line.
+        addNames(names, 1, natalLeft_, axis.left);
     }
 
     void addNames(std::vector<Name>& names, int layer, double left, double right)
@@ -297,6 +297,7 @@ private:
     const EphemerisStripSubject& subject_;
     const StripOptions& options_;
     EphemerisStrip graph_;
+    double natalLeft_ = 0.0; ///< where the names of the natal chart begin
 };
 
 } // namespace
