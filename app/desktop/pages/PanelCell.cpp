@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -25,12 +26,15 @@ namespace
 
 constexpr int kZoomStep = 10;
 
-// What the choosers of the bar show where a cell is narrow; their lists show everything.
-constexpr int kFewestLetters = 9;
+// What the chooser of divisions shows where there is room, and in a narrow cell; its list shows
+// everything.
+constexpr int kVargaLetters = 12;
+constexpr int kFewestLetters = 12;
 
 void leaveRoom(QComboBox& chooser)
 {
-    chooser.setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    chooser.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    chooser.setMinimumContentsLength(kVargaLetters);
     chooser.setMinimumWidth(chooser.fontMetrics().averageCharWidth() * kFewestLetters);
     chooser.view()->setMinimumWidth(chooser.view()->sizeHintForColumn(0));
 }
@@ -50,6 +54,17 @@ protected:
             fontMetrics().elidedText(text(), Qt::ElideRight, width()), foregroundRole());
     }
 };
+
+// What follows the name of a division, as a caption of its own.
+QString withoutBrackets(QString text)
+{
+    static const QRegularExpression around(QStringLiteral("^[ ,(]+|[)]$"));
+    text.remove(around);
+    if (!text.isEmpty()) {
+        text.front() = text.front().toUpper();
+    }
+    return text;
+}
 
 QToolButton* barButton(const QString& text, const QString& name, const QString& tip,
                        QWidget* parent)
@@ -109,7 +124,7 @@ PanelCell::PanelCell(Workspace& workspace, const present::Panel& panel, QWidget*
                 toQt(present::diagramStyleTitle(present::DiagramStyle(style))).section(' ', 0, 0));
         }
         style_->setFrame(false);
-        leaveRoom(*style_);
+        style_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
         connect(style_, &QComboBox::activated, this, [this](int index) {
             panel_->setStyle(index == 0 ? std::nullopt
                                         : std::optional(present::DiagramStyle(index - 1)));
@@ -167,11 +182,8 @@ void PanelCell::showCaption()
     QString shown = text;
     if (varga_ != nullptr) {
         const QString said = varga_->itemText(panel_->panel().varga);
-        if (text == said) {
-            shown.clear();
-        } else if (text.startsWith(said + QLatin1String(", "))) {
-            shown = text.mid(said.size() + 2);
-            shown.front() = shown.front().toUpper();
+        if (text.startsWith(said)) {
+            shown = withoutBrackets(text.mid(said.size()));
         }
     }
     caption_->setText(shown);
