@@ -24,6 +24,7 @@ namespace
 {
 
 constexpr int kMostValues = 24;
+constexpr int kFewestLetters = 8; ///< of the choosers; their lists show everything
 
 // The settings that change what a chart holds and have few values.
 bool changesCharts(const core::SettingInfo& setting)
@@ -106,15 +107,20 @@ QWidget* ComparePanel::makeSettingsPage()
         }
     }
     setting_->setCurrentIndex(setting_->findData(QStringLiteral("ayanamsaRow")));
-    auto* const label = new QLabel(tr("&With the setting"), page);
+    for (QComboBox* const chooser : {setting_, value_}) {
+        chooser->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        chooser->setMinimumContentsLength(kFewestLetters);
+    }
+    auto* const label = new QLabel(tr("&With the setting:"), page);
     label->setBuddy(setting_);
     auto* const bar = new QHBoxLayout;
+    const int gap = fontMetrics().height() / 3;
+    bar->setContentsMargins(2 * gap, 0, 2 * gap, 0);
     bar->addWidget(label);
-    bar->addWidget(setting_);
-    bar->addWidget(value_);
-    bar->addStretch(1);
+    bar->addWidget(setting_, 2);
+    bar->addWidget(value_, 1);
     auto* const box = new QVBoxLayout(page);
-    box->setContentsMargins(0, fontMetrics().height() / 3, 0, 0);
+    box->setContentsMargins(0, gap, 0, 0);
     box->addLayout(bar);
     box->addWidget(differences_, 1);
     connect(setting_, &QComboBox::activated, this, &ComparePanel::SettingComboBoxActivated);
