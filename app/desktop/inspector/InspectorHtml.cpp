@@ -57,10 +57,17 @@ QString cellHtml(const present::Cell& cell, bool right, bool small, const QStrin
         .arg(tag, right ? QStringLiteral("right") : QStringLiteral("left"), words);
 }
 
-// The pane is narrow: of a placement the division says what its name would say again.
+// The pane is narrow: of a placement the division says what its name would say again, and a column
+// without any words, such as the dignities of the ascendant, says nothing.
 bool isLeftOut(const present::Table& table, std::size_t column)
 {
-    return table.id == "placements" && table.columns[column].heading == L"Name";
+    if (table.id != "placements") {
+        return false;
+    }
+    return table.columns[column].heading == L"Name" ||
+           std::all_of(table.rows.begin(), table.rows.end(), [column](const present::Row& row) {
+               return column < row.size() && row[column].text.empty();
+           });
 }
 
 QString tableHtml(const present::Table& table)
@@ -68,8 +75,8 @@ QString tableHtml(const present::Table& table)
     if (table.columns.empty() || table.rows.empty()) {
         return {};
     }
-    QString html = QStringLiteral("<table cellspacing='0' cellpadding='3'>");
     const bool small = table.columns.size() > kMostColumns;
+    QString html = QStringLiteral("<table cellspacing='0' cellpadding='%1'>").arg(small ? 2 : 3);
     if (!table.withoutHeadings()) {
         html += QStringLiteral("<tr>");
         for (std::size_t i = 0; i < table.columns.size(); ++i) {

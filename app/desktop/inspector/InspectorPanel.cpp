@@ -70,7 +70,7 @@ InspectorPanel::InspectorPanel(Workspace& workspace, present::Panel panel, QWidg
     browser_->setFrameShape(QFrame::NoFrame);
     browser_->setOpenLinks(false);
     browser_->setWordWrapMode(QTextOption::WordWrap);
-    browser_->document()->setDocumentMargin(fontMetrics().height() / 2.0);
+    browser_->document()->setDocumentMargin(fontMetrics().height() / 3.0);
     browser_->setTextInteractionFlags(Qt::TextBrowserInteraction);
     connect(browser_, &QTextBrowser::anchorClicked, this, &InspectorPanel::linkClicked);
 

@@ -51,7 +51,7 @@ constexpr int kZoomStep = 10;
 constexpr int kWidth = 100;
 constexpr int kHeight = 60;
 constexpr int kLeftWidth = 18;
-constexpr int kRightWidth = 17;
+constexpr int kRightWidth = 18;
 
 } // namespace
 
