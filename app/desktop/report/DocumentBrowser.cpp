@@ -2,6 +2,7 @@
 
 #include "app/desktop/diagram/DisplayListPainter.h"
 #include "app/desktop/shell/Convert.h"
+#include "app/desktop/shell/Theme.h"
 
 #include <QImage>
 #include <QPainter>
@@ -101,23 +102,29 @@ private:
         html_ += QStringLiteral("<p>");
         for (const present::Drawing& drawing : row.drawings) {
             const double ratio = browser_.devicePixelRatioF();
-            const QSize pixels(int(std::ceil(drawing.list.width * ratio)),
-                               int(std::ceil(drawing.list.height * ratio)));
+            // Drawn as large as it is shown: the browser would shrink it to jagged lines.
+            const QSize shown(int(drawing.list.width * kShownPart),
+                              int(drawing.list.height * kShownPart));
+            const QSize pixels(int(std::ceil(shown.width() * ratio)),
+                               int(std::ceil(shown.height() * ratio)));
             if (pixels.isEmpty()) {
                 continue;
             }
             QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
             image.setDevicePixelRatio(ratio);
-            image.fill(Qt::white);
+            image.fill(Qt::transparent);
             QPainter painter(&image);
-            paintDisplayList(painter, drawing.list, browser_.font());
+            painter.scale(shown.width() / drawing.list.width, shown.height() / drawing.list.height);
+            present::DisplayList list = drawing.list;
+            list.scheme = isDark() ? present::ColourScheme::Dark : present::ColourScheme::Light;
+            paintDisplayList(painter, list, browser_.font());
             painter.end();
             const QString name = QStringLiteral("drawing%1").arg(++drawings_);
             browser_.document()->addResource(QTextDocument::ImageResource, QUrl(name), image);
             html_ += QStringLiteral("<img src=\"%1\" width=\"%2\" height=\"%3\"> ")
                          .arg(name)
-                         .arg(int(drawing.list.width * kShownPart))
-                         .arg(int(drawing.list.height * kShownPart));
+                         .arg(shown.width())
+                         .arg(shown.height());
         }
         html_ += QStringLiteral("</p>");
     }

@@ -102,7 +102,7 @@ TReportForm::TReportForm(Workspace& workspace, present::Panel panel, QWidget* pa
     column->addWidget(definitions_);
     column->addWidget(sections_, 1);
     column->addLayout(moves);
-    column->addWidget(button(tr("&Keep as..."), "KeepButton", [this] { KeepButtonClick(); }));
+    column->addWidget(button(tr("&Keep As..."), "KeepButton", [this] { KeepButtonClick(); }));
     column->addWidget(button(tr("Save &File..."), "SaveButton", [this] { SaveButtonClick(); }));
     column->addWidget(
         button(tr("&Print Preview..."), "PreviewButton", [this] { PreviewButtonClick(); }));
