@@ -120,6 +120,10 @@ PlaceFields::PlaceFields(Workspace& workspace, QWidget* form)
     makeNumber(zone_, form, "Zone", int(data::kZoneLength), tr("East or west of Greenwich"));
     makeNumber(longitude_, form, "Longitude", int(data::kLongitudeLength), tr("East or west"));
     makeNumber(latitude_, form, "Latitude", int(data::kLatitudeLength), tr("North or south"));
+    // All as wide as the longest, so that their letters stand below one another.
+    for (const Number* const number : {&zone_, &latitude_}) {
+        number->edit->setFixedWidth(longitude_.edit->maximumWidth());
+    }
 
     connect(city_, &QLineEdit::textEdited, this, &PlaceFields::edited);
     connect(country_, &QLineEdit::textEdited, this, &PlaceFields::edited);

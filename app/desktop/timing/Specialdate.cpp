@@ -83,12 +83,31 @@ TSpecialDateDlg::TSpecialDateDlg(Workspace& workspace, QWidget* parent)
     layout->addWidget(result_);
     layout->addWidget(buttons_);
     result_->setMinimumWidth(fontMetrics().averageCharWidth() * 50);
+    alignLabels();
     connect(kind_, &QComboBox::currentIndexChanged, this, &TSpecialDateDlg::KindComboBoxChange);
     connect(direction_, &QComboBox::currentIndexChanged, this, &TSpecialDateDlg::find);
     connect(buttons_, &QDialogButtonBox::accepted, this, &TSpecialDateDlg::OkButtonClick);
     connect(buttons_, &QDialogButtonBox::rejected, this, &QDialog::reject);
     kind_->setFocus();
     KindComboBoxChange();
+}
+
+// The forms below one another look like one.
+void TSpecialDateDlg::alignLabels()
+{
+    QList<QWidget*> labels;
+    int width = 0;
+    for (const QFormLayout* const form : findChildren<QFormLayout*>()) {
+        for (int row = 0; row < form->rowCount(); ++row) {
+            if (const QLayoutItem* const item = form->itemAt(row, QFormLayout::LabelRole)) {
+                labels += item->widget();
+                width = std::max(width, item->widget()->sizeHint().width());
+            }
+        }
+    }
+    for (QWidget* const label : labels) {
+        label->setMinimumWidth(width);
+    }
 }
 
 QFormLayout* TSpecialDateDlg::addPage()

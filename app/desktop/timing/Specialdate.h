@@ -32,6 +32,7 @@ public:
 private:
     using Found = core::Result<double>;
 
+    void alignLabels();
     QFormLayout* addPage();
     void makeDatePage();
     void makeBirthPages();
