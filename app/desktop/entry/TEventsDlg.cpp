@@ -60,7 +60,7 @@ void TEventsDlg::OkButtonClick()
     const std::optional<std::size_t> line = workspace_.chartLine();
     if (line) {
         const std::size_t index = *line;
-        workspace_.database().change(tr("edit events"), [&](data::ChartDatabase& charts) {
+        workspace_.database().change(tr("Edit Events"), [&](data::ChartDatabase& charts) {
             if (index < charts.size()) {
                 charts.replace(index, chart);
             }

@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QKeyEvent>
+#include <QMenu>
 
 namespace kestrav::desktop
 {
@@ -30,6 +31,7 @@ HelpActions::HelpActions(TKSVform1& window) : QObject(&window), window_(window)
         TQuickTipsDlg dialog(window_.workspace(), &window_);
         dialog.exec();
     });
+    window_.menu(MenuName::Help)->addSeparator();
     window_.addCommand(MenuName::Help,
                        {"AboutAction", tr("&About Kestrav..."), {}, {}, "help-about"}, [this] {
                            TAboutBox box(&window_);

@@ -46,6 +46,8 @@ TShortcutsDlg::TShortcutsDlg(TKSVform1& window) : QDialog(&window)
     table->setHorizontalHeaderLabels({tr("Command"), tr("Keys")});
     table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     table->horizontalHeader()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+    table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() * 3 / 2);
     table->verticalHeader()->hide();
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);

@@ -25,6 +25,7 @@ PrintActions::PrintActions(TKSVform1& window) : QObject(&window), window_(window
                         {},
                         tr("Saves the page as it would be printed")},
                        [this] { PdfActionTriggered(); });
+    window_.menu(MenuName::File)->addSeparator();
 }
 
 void PrintActions::PrintActionTriggered()

@@ -186,7 +186,7 @@ void ResearchDesk::keepNames(const data::ChartDatabase& named)
     if (!named.modified() || named.path() != workspace_.database().path()) {
         return;
     }
-    workspace_.database().change(tr("name charts"), [&](data::ChartDatabase& charts) {
+    workspace_.database().change(tr("Name Charts"), [&](data::ChartDatabase& charts) {
         for (std::size_t i = 0; i < charts.size() && i < named.size(); ++i) {
             if (charts.line(i) != named.line(i)) {
                 charts.replaceLine(i, std::string(named.line(i)));

@@ -109,7 +109,7 @@ bool YogaFindings::makeGroupB(core::Messages& messages)
     }
     SettledMessages settled(messages, workspace_.settings());
     const yoga::YogaFinds finds = last_->finds;
-    return workspace_.database().change(tr("B group"), [&](data::ChartDatabase& charts) {
+    return workspace_.database().change(tr("B Group Tags"), [&](data::ChartDatabase& charts) {
         return yoga::makeGroupB(charts, finds, settled) ? data::Outcome::Done
                                                         : data::Outcome::Cancelled;
     }) == data::Outcome::Done;

@@ -663,7 +663,7 @@ QWidget* makeYogaWindow(Workspace& workspace, QWidget* parent)
     form->setWindowFlag(Qt::Window);
     form->setWindowTitle(TYogaTreeForm::tr("Yogas"));
     const int line = form->fontMetrics().height();
-    form->resize(line * 60, line * 42);
+    form->resize(line * 72, line * 42);
     return form;
 }
 
