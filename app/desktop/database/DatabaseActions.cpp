@@ -290,6 +290,7 @@ void DatabaseActions::reload()
 
 bool DatabaseActions::save()
 {
+    emit database().editsDue();
     if (!database().writable()) {
         return saveAs();
     }
@@ -302,6 +303,7 @@ bool DatabaseActions::save()
 
 bool DatabaseActions::saveAs()
 {
+    emit database().editsDue();
     const std::filesystem::path& now = database().path();
     const bool reachable = database().writable();
     const QString suggestion = now.empty() ? chartsFolder() + QStringLiteral("/My Charts.ksc")
@@ -342,6 +344,7 @@ void DatabaseActions::SaveInOtherOrderActionClick()
 
 void DatabaseActions::BackupActionClick()
 {
+    emit database().editsDue();
     data::announceBackup(messages_);
     const auto file = TMessages::fileToSave(
         &window_, tr("Backup"), filters(),
@@ -386,6 +389,7 @@ void DatabaseActions::RestoreActionClick()
 
 bool DatabaseActions::mayDropChanges()
 {
+    emit database().editsDue();
     if (!database().modified()) {
         return true;
     }

@@ -120,6 +120,8 @@ signals:
     /// What a step, done or undone, did to the lines, in its order; after the signals above.
     void linesEdited(const std::vector<kestrav::desktop::LineEdit>& edits);
     void modifiedChanged();
+    /// Before the database is saved, replaced or left: panels put into it what was typed in them.
+    void editsDue();
     /// Another program changed the file, or took it away.
     void changedByOthers();
 

@@ -1,18 +1,23 @@
 #include "app/desktop/notes/NotesPanel.h"
 
 #include "app/desktop/database/OpenDatabase.h"
+#include "app/desktop/entry/FormRows.h"
 #include "app/desktop/printing/Printing.h"
 #include "app/desktop/printing/TPrintPreviewForm.h"
 #include "app/desktop/shell/Convert.h"
 #include "app/present/Report.h"
+#include "data/ChartLineFields.h"
+#include "data/CleanText.h"
 
 #include <QAction>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace kestrav::desktop
@@ -21,25 +26,17 @@ namespace kestrav::desktop
 namespace
 {
 
-// The room that a chart line has for notes.
-constexpr int kLongestNotes = 7000;
-
 QString withLineFeeds(const std::wstring& notes)
 {
     return toQt(notes).remove(QLatin1Char('\r'));
-}
-
-// Line breaks of notes are CR LF.
-std::wstring withCarriageReturns(QString text)
-{
-    return toWide(text.replace(QLatin1Char('\n'), QLatin1String("\r\n")).left(kLongestNotes));
 }
 
 } // namespace
 
 NotesPanel::NotesPanel(Workspace& workspace, present::Panel panel, QWidget* parent)
     : PanelWidget(workspace, std::move(panel), parent), text_(new QPlainTextEdit(this)),
-      find_(new QLineEdit(this)), keep_(new QPushButton(tr("&Keep Notes"), this))
+      find_(new QLineEdit(this)), keep_(new QPushButton(tr("&Keep Notes"), this)),
+      note_(makeNote(this, "NotesNoteLabel"))
 {
     setObjectName(QStringLiteral("NotesPanel"));
     text_->setObjectName(QStringLiteral("NotesEdit"));
@@ -59,11 +56,14 @@ NotesPanel::NotesPanel(Workspace& workspace, present::Panel panel, QWidget* pare
     const int gap = fontMetrics().height() / 4;
     box->setContentsMargins(gap, 0, gap, gap);
     box->addWidget(text_, 1);
+    box->addWidget(note_);
     box->addLayout(bar);
     setFocusProxy(text_);
+    connect(text_, &QPlainTextEdit::textChanged, this, &NotesPanel::showState);
     connect(text_, &QPlainTextEdit::modificationChanged, this, &NotesPanel::showState);
     connect(find_, &QLineEdit::returnPressed, this, &NotesPanel::FindEditReturnPressed);
     connect(keep_, &QPushButton::clicked, this, &NotesPanel::KeepButtonClick);
+    connect(&workspace.database(), &OpenDatabase::editsDue, this, &NotesPanel::keepNotes);
     auto* const print = new QAction(tr("&Print Notes..."), this);
     connect(print, &QAction::triggered, this, [this] {
         PaperDocument paper;
@@ -102,10 +102,7 @@ void NotesPanel::refresh()
     const std::wstring name = shown ? shown->chart.name : std::wstring();
     // Notes that were edited stay while the same chart is computed anew.
     if (!(text_->document()->isModified() && name == shownOf_)) {
-        if (text_->document()->isModified()) {
-            workspace().tellProblem(
-                tr("The changed notes of %1 were not kept.").arg(toQt(shownOf_)));
-        }
+        keepNotes();
         text_->setPlainText(shown ? withLineFeeds(shown->chart.identity.notes) : QString());
         text_->document()->setModified(false);
         shownOf_ = name;
@@ -119,28 +116,49 @@ void NotesPanel::showState()
     text_->setReadOnly(!ofDatabase);
     text_->setPlaceholderText(ofDatabase ? tr("No notes.")
                                          : tr("Notes belong to charts of the database."));
-    keep_->setEnabled(ofDatabase && text_->document()->isModified());
+    const std::wstring text = toWide(text_->toPlainText());
+    const bool modified = text_->document()->isModified();
+    const auto bar = data::notesProblem(text);
+    QString problem;
+    if (ofDatabase && modified && bar) {
+        problem = toQt(*bar);
+    } else if (ofDatabase && modified && text.size() > data::kNotesLength) {
+        problem = tr("The notes are too long.");
+    }
+    showNote(*note_, *text_, problem);
+    note_->setVisible(!problem.isEmpty());
+    keep_->setEnabled(ofDatabase && modified && problem.isEmpty());
 }
 
 void NotesPanel::KeepButtonClick()
 {
-    const std::optional<std::size_t> line = workspace().chartLine();
-    if (!line) {
+    keepNotes();
+}
+
+// The chart need not be the shown one any more. What cannot stand in notes is replaced here, so
+// that nothing typed is lost when there is no time to mend it.
+void NotesPanel::keepNotes()
+{
+    if (!text_->document()->isModified()) {
         return;
     }
-    const std::wstring notes = withCarriageReturns(text_->toPlainText());
-    const data::Outcome outcome =
-        workspace().database().change(tr("edit notes"), [&](data::ChartDatabase& charts) {
-            core::Chart record;
-            charts.read(*line, record);
-            record.identity.notes = notes;
-            charts.replace(*line, record);
-            return data::Outcome::Done;
-        });
-    if (outcome == data::Outcome::Done) {
-        text_->document()->setModified(false);
-        workspace().showLine(*line);
+    OpenDatabase& database = workspace().database();
+    const std::optional<std::size_t> shownLine = workspace().chartLine();
+    const bool same = shownLine && workspace().record().name == shownOf_;
+    const std::optional<std::size_t> line = same ? shownLine : database.charts().find(shownOf_);
+    std::optional<core::Chart> record = line ? database.record(*line) : std::nullopt;
+    if (!record) {
+        workspace().tellProblem(tr("The changed notes of %1 were not kept.").arg(toQt(shownOf_)));
+        return;
     }
+    std::wstring notes = toWide(text_->toPlainText());
+    std::replace(notes.begin(), notes.end(), L'|', L'/');
+    record->identity.notes = data::cleanNotes(notes);
+    text_->document()->setModified(false);
+    database.change(tr("Notes of %1").arg(toQt(shownOf_)), [&](data::ChartDatabase& charts) {
+        charts.replace(*line, *record);
+        return data::Outcome::Done;
+    });
 }
 
 void NotesPanel::FindEditReturnPressed()

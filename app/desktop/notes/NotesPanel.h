@@ -3,6 +3,7 @@
 
 #include "app/desktop/panels/PanelWidget.h"
 
+class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
 class QPushButton;
@@ -26,12 +27,14 @@ protected:
 
 private:
     void KeepButtonClick();
+    void keepNotes();
     void FindEditReturnPressed();
     void showState();
 
     QPlainTextEdit* text_;
     QLineEdit* find_;
     QPushButton* keep_;
+    QLabel* note_;
     QList<QAction*> actions_;
     std::wstring shownOf_; ///< the chart whose notes are in the editor
 };
