@@ -141,4 +141,11 @@ std::string dateProblem(const core::PlainDate& date)
     return month + " has no day " + std::to_string(date.day) + ".";
 }
 
+std::string dateWarning(const core::PlainDate& date)
+{
+    return date.year == 1582 && date.month == 10 && date.day == 15
+               ? "This day is read in the Julian calendar, as October 25 of the Gregorian one."
+               : "";
+}
+
 } // namespace kestrav::present

@@ -31,4 +31,7 @@ namespace kestrav::present
 /// What is wrong with a date; empty when it exists.
 [[nodiscard]] std::string dateProblem(const core::PlainDate& date);
 
+/// What a user should know of a date that can be taken; empty when there is nothing.
+[[nodiscard]] std::string dateWarning(const core::PlainDate& date);
+
 } // namespace kestrav::present

@@ -47,6 +47,10 @@ TEST(TypedDate, SaysWhatIsWrong)
     EXPECT_EQ(problem(L"29/2/1900"), "February 1900 has no day 29.");
     EXPECT_EQ(problem(L"29/2/1500"), ""); // Julian
     EXPECT_EQ(problem(L"10/10/1582"), "In October 1582 the 15th followed the 4th.");
+    EXPECT_EQ(problem(L"15/10/1582"), "");
+    EXPECT_EQ(dateWarning({1582, 10, 15}),
+              "This day is read in the Julian calendar, as October 25 of the Gregorian one.");
+    EXPECT_EQ(dateWarning({1582, 10, 16}), "");
     EXPECT_EQ(problem(L"1/1/0"), "There is no year 0; 1 BC is the year -1.");
     EXPECT_EQ(problem(L""), "The date is missing.");
     EXPECT_EQ(problem(L"1/1/99999999999999"), "Write day, month and year, such as 15/6/1990.");

@@ -205,6 +205,9 @@ core::DateTimeRecord BirthPage::moment() const
 void BirthPage::check()
 {
     date_.showProblem();
+    if (date_.problem().isEmpty()) {
+        showNote(*date_.note, *date_.edit, toQt(present::dateWarning(date_.value())));
+    }
     const std::wstring time = toWide(time_->text().trimmed());
     const bool good = time.empty() || data::readTimeText(time);
     showNote(*timeNote_, *time_, good ? QString() : tr("Write the time such as 14:30 or 2:30 pm."));
