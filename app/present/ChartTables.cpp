@@ -313,7 +313,7 @@ Table housesTable(const ComputedChart& computed)
     }
     if (!chart.cuspsComplete && chart.hasMoment) {
         table.notes.push_back(L"Some cusps do not exist: Placidus has none at this latitude for "
-                              L"this moment. Equal House (--set houseSystem=1) has all.");
+                              L"this moment. The house system Equal House has all.");
     } else if (sandhiMissing(chart)) {
         table.notes.push_back(L"Some sandhis do not exist at this latitude for this moment.");
     }

@@ -10,6 +10,7 @@
 #include "app/desktop/options/TOptionWizardForm.h"
 #include "app/desktop/options/TOptionsDlg.h"
 #include "app/desktop/options/TSelectDashaDlg.h"
+#include "app/desktop/shell/Convert.h"
 #include "app/desktop/shell/Ks6main.h"
 #include "app/desktop/shell/TMessages.h"
 #include "astro/Houses.h"
@@ -46,6 +47,20 @@ OptionsActions::OptionsActions(TKSVform1& window) : QObject(&window), window_(wi
                            [this] { OptionWizardActionTriggered(); });
     window_.menu(MenuName::Help)->addAction(wizard);
     connect(&window_.workspace(), &Workspace::settingsChanged, this, &OptionsActions::showSwitches);
+    connect(&window_.workspace(), &Workspace::chartChanged, this,
+            &OptionsActions::tellMissingCusps);
+}
+
+// Near the poles Placidus has no cusps; the user is told which house system has.
+void OptionsActions::tellMissingCusps()
+{
+    Workspace& workspace = window_.workspace();
+    const ChartPointer& shown = workspace.chart();
+    if (shown && shown->hasPlace && shown->chart.hasMoment && !shown->chart.cuspsComplete) {
+        workspace.tellProblem(tr("Placidus has no cusps at the latitude of %1. Options / House "
+                                 "System / Equal House has all.")
+                                  .arg(toQt(shown->chart.name)));
+    }
 }
 
 void OptionsActions::addDialogs()

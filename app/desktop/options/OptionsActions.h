@@ -36,6 +36,7 @@ private:
     void change(std::string_view setting, double value);
     void changeFlag(unsigned flag, bool on);
     void showSwitches();
+    void tellMissingCusps();
     void SystemsApproachActionTriggered();
     void OptionWizardActionTriggered();
 
