@@ -97,20 +97,6 @@ void ResearchActions::refresh()
     }
 }
 
-void ResearchActions::offerAfterOptions(const core::Settings& before, const core::Settings& after)
-{
-    OpenDatabase& database = window_.workspace().database();
-    if (!optionsMovePlanets(before, after) || database.path().empty()) {
-        return;
-    }
-    const data::ResearchState state = data::researchState(database.charts(), after);
-    TMessages messages;
-    if (state != data::ResearchState::Missing && state != data::ResearchState::Foreign &&
-        data::agreesToRefreshAfter(before, after, messages)) {
-        refreshNow();
-    }
-}
-
 void ResearchActions::refreshNow()
 {
     OpenDatabase& database = window_.workspace().database();

@@ -26,9 +26,6 @@ public:
     /// Refreshes without a question. The work runs on other threads behind a box with Cancel. A
     /// database whose folder cannot be written is saved under another name first.
     void refreshNow();
-    /// After the user changed options: asks whether to refresh when they move planets between signs
-    /// or nakshatras and there is a research database, and does so.
-    void offerAfterOptions(const core::Settings& before, const core::Settings& after);
 
 signals:
     /// A new research file stands beside the database.
