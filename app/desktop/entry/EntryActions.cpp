@@ -72,6 +72,7 @@ EntryActions::EntryActions(TKSVform1& window)
     };
     connect(&window_.workspace(), &Workspace::secondChanged, this, showSecond);
     showSecond();
+    window_.menu(MenuName::Options)->addSeparator();
     window_.addCommand(MenuName::Options,
                        {"NowLocationAction",
                         tr("&Now Location..."),
@@ -80,7 +81,7 @@ EntryActions::EntryActions(TKSVform1& window)
                        [this] { TNowLocationDlg(window_.workspace(), &window_).exec(); });
     window_.addCommand(MenuName::Options,
                        {"PcAtlasVersionAction",
-                        tr("PC &Atlas..."),
+                        tr("PC A&tlas..."),
                         {},
                         tr("Selects the version of an outside atlas and locates it")},
                        [this] { TPcAtlasVersionDlg(window_.workspace(), &window_).exec(); });

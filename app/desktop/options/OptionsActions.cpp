@@ -34,7 +34,7 @@ OptionsActions::OptionsActions(TKSVform1& window) : QObject(&window), window_(wi
     menu->addSeparator();
     window_.addCommand(MenuName::Options,
                        {"SystemsApproachAction",
-                        tr("Systems Appr&oach..."),
+                        tr("S&ystems Approach..."),
                         {},
                         tr("Sets the house system that Systems Approach uses")},
                        [this] { SystemsApproachActionTriggered(); });

@@ -170,7 +170,6 @@ void TKSVform1::makeMenus()
 // The commands of every part of the program, in the order in which they stand in the menus.
 void TKSVform1::makeOthers()
 {
-    new TimingActions(*this);
     setRightPane(makeInspectorPane(workspace_, this));
     new DatabaseActions(*this);
     new PrintActions(*this);
@@ -181,6 +180,7 @@ void TKSVform1::makeOthers()
     new OptionsActions(*this);
     new StatusLine(*this);
     new EntryActions(*this);
+    new TimingActions(*this);
     new YogaActions(*this);
 }
 

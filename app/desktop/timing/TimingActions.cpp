@@ -5,17 +5,20 @@
 #include "app/desktop/timing/TTransitChoicesDlg.h"
 #include "app/desktop/timing/TransitListingPanel.h"
 
+#include <QMenu>
+
 namespace kestrav::desktop
 {
 
 TimingActions::TimingActions(TKSVform1& window) : QObject(&window), window_(window)
 {
+    window.menu(MenuName::Chart)->addSeparator();
     window.addCommand(MenuName::Chart,
                       {"SpecialDateAction", tr("Special &Date..."), QKeySequence(tr("Ctrl+J")),
                        tr("Brings the shared date to an age, a return, a change in the sky")},
                       [this] { SpecialDateActionExecute(); });
     window.addCommand(MenuName::Options,
-                      {"TransitChoicesAction", tr("&Transit Choices..."),
+                      {"TransitChoicesAction", tr("Trans&it Choices..."),
                        QKeySequence(tr("Ctrl+Shift+T")),
                        tr("Chooses bodies, points, aspects and days of the list of transits")},
                       [this] { TransitChoicesActionExecute(); });
