@@ -270,7 +270,8 @@ void ChartListPane::showColumns()
     room -= list_->columnWidth(ChartListModel::LabelColumn);
     showWhereRoom(ChartListModel::TagColumn, tagged);
     showWhereRoom(ChartListModel::DateColumn, true);
-    showWhereRoom(ChartListModel::TimeColumn, true);
+    // A time says nothing without its date.
+    showWhereRoom(ChartListModel::TimeColumn, !list_->isColumnHidden(ChartListModel::DateColumn));
 }
 
 QSize ChartListPane::sizeHint() const
