@@ -210,6 +210,10 @@ void PanelCell::fillMenu(QMenu& menu)
     keep->setCheckable(true);
     keep->setChecked(pin_->isChecked());
     connect(keep, &QAction::toggled, pin_, &QToolButton::setChecked);
+    // Other panels are chosen where the page is composed.
+    if (auto* const compose = window()->findChild<QAction*>(QStringLiteral("PageLayoutAction"))) {
+        menu.addAction(compose);
+    }
     menu.addSeparator();
     menu.addAction(tr("&Help on This Panel"), &workspace_,
                    [this] { emit workspace_.helpWanted(panel_->helpName()); });
