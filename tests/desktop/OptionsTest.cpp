@@ -347,6 +347,20 @@ TEST_F(OptionsTest, TheWizardGathersChoicesAndEscLeavesThem)
     EXPECT_EQ(workspace().database().charts().size(), 0U);
 }
 
+TEST_F(OptionsTest, MissingCuspsNearThePolesAreTold)
+{
+    core::Chart record = workspace().record();
+    record.geoLatitude = 78.0;
+    workspace().changeSettings(changed("houseSystem", "Placidus (Vedic)"));
+    ASSERT_TRUE(workspace().showRecord(record));
+    EXPECT_TRUE(find<QLabel>("NewsLabel")
+                    ->text()
+                    .startsWith(QStringLiteral("Placidus has no cusps at the latitude of ")));
+    QSignalSpy told(&workspace(), &Workspace::news);
+    workspace().changeSettings(changed("houseSystem", "Equal House"));
+    EXPECT_EQ(told.count(), 0);
+}
+
 TEST_F(OptionsTest, TheStatusLineTellsTheChartInShort)
 {
     const core::Chart& chart = workspace().chart()->chart;
