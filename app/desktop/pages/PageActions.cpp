@@ -1,5 +1,6 @@
 #include "app/desktop/pages/PageActions.h"
 
+#include "app/desktop/database/OpenDatabase.h"
 #include "app/desktop/pages/DeliveredPages.h"
 #include "app/desktop/pages/PageStrip.h"
 #include "app/desktop/pages/SavedPages.h"
@@ -149,6 +150,8 @@ PageActions::PageActions(TKSVform1& window) : QObject(&window), window_(window)
 
 void PageActions::change(const QString& what, const std::function<void()>& step)
 {
+    // Panels go with their pages.
+    emit window_.workspace().database().editsDue();
     PageStrip& pages = window_.pages();
     Layouts before = pages.layouts();
     const int beforeIndex = pages.current();
