@@ -39,6 +39,8 @@ void leaveRoom(QComboBox& chooser)
     chooser.view()->setMinimumWidth(chooser.view()->sizeHintForColumn(0));
 }
 
+constexpr int kFewestOfCaption = 5; ///< letters of a shortened caption that still say something
+
 // Ends in dots where there is too little room; its tip says everything.
 class CaptionText : public QLabel
 {
@@ -48,10 +50,13 @@ public:
 protected:
     void paintEvent(QPaintEvent* /*event*/) override
     {
+        const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, width());
+        if (shown != text() && shown.size() < kFewestOfCaption) {
+            return;
+        }
         QPainter painter(this);
-        style()->drawItemText(
-            &painter, rect(), Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
-            fontMetrics().elidedText(text(), Qt::ElideRight, width()), foregroundRole());
+        style()->drawItemText(&painter, rect(), Qt::AlignLeft | Qt::AlignVCenter, palette(),
+                              isEnabled(), shown, foregroundRole());
     }
 };
 

@@ -664,6 +664,7 @@ QWidget* makeYogaWindow(Workspace& workspace, QWidget* parent)
     form->setWindowTitle(TYogaTreeForm::tr("Yogas"));
     const int line = form->fontMetrics().height();
     form->resize(line * 72, line * 42);
+    form->findChild<QSplitter*>(QStringLiteral("YogaSplitter"))->setSizes({line * 31, line * 41});
     return form;
 }
 
