@@ -125,7 +125,12 @@ QString TablePanel::title() const
     if (!title_.isEmpty()) {
         return title_;
     }
+    // The meaning of a list in a few words: what comes behind "with" says how it is made.
     QString meaning = toQt(std::wstring(present::findTable(panel_.content)->meaning));
+    meaning = meaning.section(QLatin1String(" with "), 0, 0).section(QLatin1Char(';'), 0, 0);
+    if (meaning.endsWith(QLatin1Char(','))) {
+        meaning.chop(1);
+    }
     return meaning.left(1).toUpper() + meaning.mid(1);
 }
 
