@@ -118,7 +118,18 @@ public:
     }
 };
 
+ThemeOfRun& themeOfRun()
+{
+    static ThemeOfRun theTheme;
+    return theTheme;
+}
+
 } // namespace
+
+void setThemeOfRun(const ThemeOfRun& theme)
+{
+    themeOfRun() = theme;
+}
 
 void applyTheme(const core::Settings& settings)
 {
@@ -133,10 +144,11 @@ void applyTheme(const core::Settings& settings)
     const bool dark = settings.colourScheme == int(Scheme::System)
                           ? systemIsDark
                           : settings.colourScheme == int(Scheme::Dark);
-    QApplication::setPalette(paletteOf(dark));
+    QApplication::setPalette(paletteOf(themeOfRun().dark.value_or(dark)));
     QFont font = systemFont;
     if (font.pointSizeF() > 0.0) {
-        font.setPointSizeF(font.pointSizeF() * settings.fontPercent / 100.0);
+        const int percent = themeOfRun().fontPercent.value_or(settings.fontPercent);
+        font.setPointSizeF(font.pointSizeF() * percent / 100.0);
     }
     if (font != QApplication::font()) {
         QApplication::setFont(font);

@@ -5,6 +5,8 @@
 
 #include <QColor>
 
+#include <optional>
+
 namespace kestrav::desktop
 {
 
@@ -22,6 +24,16 @@ enum class ThemeRole
 /// Puts style, palette and letters in force. The scheme "system" follows the palette that the
 /// system gave the program when it started.
 void applyTheme(const core::Settings& settings);
+
+/// Colours and letters for this run of the program, whatever the settings say; those are not
+/// changed.
+struct ThemeOfRun
+{
+    std::optional<bool> dark;
+    std::optional<int> fontPercent;
+};
+
+void setThemeOfRun(const ThemeOfRun& theme);
 
 /// Whether the window is dark now.
 [[nodiscard]] bool isDark();

@@ -66,17 +66,14 @@ core::StoredSettings storedSettings(const std::filesystem::path& path, TMessages
     return usable ? core::decodeSettings(bytes.value()) : core::StoredSettings{};
 }
 
-core::StoredSettings settingsForRun(const std::filesystem::path& path,
-                                    const ProgramOptions& options, TMessages& messages)
+ThemeOfRun themeOf(const ProgramOptions& options)
 {
-    core::StoredSettings settings = storedSettings(path, messages);
+    ThemeOfRun theme;
+    theme.fontPercent = options.fontPercent;
     if (options.scheme) {
-        settings.settings.colourScheme = *options.scheme == "dark" ? 2 : 1;
+        theme.dark = *options.scheme == "dark";
     }
-    if (options.fontPercent) {
-        settings.settings.fontPercent = *options.fontPercent;
-    }
-    return settings;
+    return theme;
 }
 
 YogasPointer loadYogas(Workspace& workspace)
@@ -188,7 +185,8 @@ int runWindow(int& count, char** words, const ProgramOptions& options)
     const std::filesystem::path settingsPath = options.settingsFile
                                                    ? std::filesystem::path(*options.settingsFile)
                                                    : core::settingsFilePath();
-    core::StoredSettings settings = settingsForRun(settingsPath, options, messages);
+    core::StoredSettings settings = storedSettings(settingsPath, messages);
+    setThemeOfRun(themeOf(options));
     applyTheme(settings.settings);
     astro::LoadResult loaded = astro::LoadSeries();
     if (!loaded.ok()) {
