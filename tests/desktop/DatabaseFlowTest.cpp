@@ -24,6 +24,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSignalSpy>
 #include <QTreeView>
 #include <QTreeWidget>
 #include <QUrl>
@@ -31,6 +32,7 @@
 #include <algorithm>
 #include <fstream>
 #include <iterator>
+#include <set>
 #include <sstream>
 
 namespace kestrav::desktop
@@ -301,6 +303,41 @@ TEST_F(DatabaseFlowTest, ListIsSortedGroupedAndDragged)
         EXPECT_EQ(database().charts().size(), size + 1) << "what is there is not added again";
     }
     EXPECT_EQ(database().charts().line(size), text);
+}
+
+TEST_F(DatabaseFlowTest, ASwitchOfChartsRepaintsTheirTwoRowsOnly)
+{
+    QAbstractItemModel& model = *list_->model();
+    const auto boldRows = [&] {
+        std::set<int> rows;
+        for (int row = 0; row < model.rowCount(); ++row) {
+            if (model.index(row, 0).data(Qt::FontRole).value<QFont>().bold()) {
+                rows.insert(row);
+            }
+        }
+        return rows;
+    };
+    for (const int order : {int(data::SortOrder::Alphabetical), int(data::SortOrder::FileOrder)}) {
+        auto* const sort = find<QComboBox>("SortComboBox");
+        sort->setCurrentIndex(order);
+        emit sort->activated(order);
+        const std::set<int> before = boldRows();
+        const QSignalSpy changes(&model, &QAbstractItemModel::dataChanged);
+        workspace().showLine(*workspace().chartLine() + 3);
+        settle();
+        std::set<int> told;
+        for (const QList<QVariant>& change : changes) {
+            for (int row = change[0].toModelIndex().row(); row <= change[1].toModelIndex().row();
+                 ++row) {
+                told.insert(row);
+            }
+        }
+        std::set<int> expected = boldRows();
+        EXPECT_EQ(expected.size(), 1U);
+        expected.insert(before.begin(), before.end());
+        EXPECT_EQ(expected.size(), 2U);
+        EXPECT_EQ(told, expected);
+    }
 }
 
 TEST_F(DatabaseFlowTest, MergeShowsWhatItWouldDoFirst)

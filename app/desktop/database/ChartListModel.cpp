@@ -41,7 +41,7 @@ ChartListModel::ChartListModel(Workspace& workspace, QObject* parent)
     connect(&database_, &OpenDatabase::lineRemoved, this, &ChartListModel::LineRemoved);
     connect(&database_, &OpenDatabase::linesEdited, this, &ChartListModel::followEdits);
     connect(&workspace_, &Workspace::chartChanged, this, &ChartListModel::markShown);
-    connect(&workspace_, &Workspace::settingsChanged, this, &ChartListModel::markShown);
+    connect(&workspace_, &Workspace::settingsChanged, this, &ChartListModel::markAll);
     readKeys();
     rebuild();
 }
@@ -312,6 +312,7 @@ void ChartListModel::rebuild()
     }
     std::erase_if(shown_, [this](std::size_t row) { return !shows(row); });
     endResetModel();
+    marked_ = shownIndex();
 }
 
 void ChartListModel::insertRowOf(std::size_t row)
@@ -436,7 +437,26 @@ void ChartListModel::followEdits(const std::vector<LineEdit>& edits)
     }
 }
 
+QModelIndex ChartListModel::shownIndex() const
+{
+    const std::optional<int> row =
+        workspace_.chartLine() ? positionOf(*workspace_.chartLine()) : std::nullopt;
+    return row ? index(*row, 0) : QModelIndex();
+}
+
 void ChartListModel::markShown()
+{
+    // Views look at every row of a changed range, which takes long in a large database.
+    const QModelIndex now = shownIndex();
+    for (const QModelIndex& changed : {QModelIndex(marked_), now}) {
+        if (changed.isValid()) {
+            emit dataChanged(changed, changed.siblingAtColumn(Columns - 1));
+        }
+    }
+    marked_ = now;
+}
+
+void ChartListModel::markAll()
 {
     if (!shown_.empty()) {
         emit dataChanged(index(0, 0), index(rowCount() - 1, Columns - 1));

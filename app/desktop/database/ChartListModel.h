@@ -81,7 +81,9 @@ private:
     void LineChanged(std::size_t line);
     void LineInserted(std::size_t line);
     void LineRemoved(std::size_t line);
+    [[nodiscard]] QModelIndex shownIndex() const;
     void markShown();
+    void markAll();
 
     Workspace& workspace_;
     OpenDatabase& database_;
@@ -91,6 +93,7 @@ private:
     data::SortOrder sort_ = data::SortOrder::Alphabetical;
     std::optional<data::ResearchKey> key_;
     data::LineList research_;
+    QPersistentModelIndex marked_; ///< the row of the chart last shown
 };
 
 } // namespace kestrav::desktop
