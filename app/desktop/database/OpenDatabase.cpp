@@ -158,7 +158,7 @@ std::optional<core::Chart> OpenDatabase::record(std::size_t line)
 }
 
 std::optional<std::size_t> OpenDatabase::saveRecord(const core::Chart& chart,
-                                                    core::Messages& messages, QWidget* /*asker*/)
+                                                    core::Messages& messages)
 {
     SettledMessages settled(messages, settings_);
     core::Chart clean = chart;

@@ -272,7 +272,7 @@ void TDataEntryForm::OkButtonClick()
         chart.name = data::kNoNameText;
     }
     TMessages messages;
-    const std::optional<std::size_t> line = workspace_.database().saveRecord(chart, messages, this);
+    const std::optional<std::size_t> line = workspace_.database().saveRecord(chart, messages);
     if (!line) {
         return;
     }

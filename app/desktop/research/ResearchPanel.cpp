@@ -8,7 +8,7 @@
 #include "app/desktop/research/BarChartView.h"
 #include "app/desktop/shell/Convert.h"
 #include "app/desktop/shell/StateFile.h"
-#include "app/desktop/timing/WorkBar.h"
+#include "app/desktop/shell/WorkBar.h"
 
 #include <QAction>
 #include <QComboBox>

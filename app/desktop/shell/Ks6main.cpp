@@ -37,6 +37,7 @@
 #include <QStatusBar>
 #include <QVBoxLayout>
 
+#include <cmath>
 #include <utility>
 
 namespace kestrav::desktop
@@ -46,6 +47,10 @@ namespace
 {
 
 constexpr int kZoomStep = 10;
+
+// A shared date so near to the present is not kept: the next start has a present of its own.
+constexpr double kPresentDays = 1.0;
+constexpr char kMomentKey[] = "window/moment";
 
 // In heights of a line.
 constexpr int kWidth = 100;
@@ -293,6 +298,11 @@ void TKSVform1::saveSession()
     state.setValue("window/right", right_ == nullptr || !right_->isHidden());
     state.setValue("window/dateBar", !dateBar_->isHidden());
     keepPages(*pages_);
+    if (std::abs(workspace_.moment() - Workspace::now()) > kPresentDays) {
+        state.setValue(kMomentKey, workspace_.moment());
+    } else {
+        state.remove(kMomentKey);
+    }
     state.sync();
 }
 
@@ -311,11 +321,11 @@ void TKSVform1::restoreSession()
     for (const std::string& problem : restorePages(*pages_)) {
         workspace_.tellProblem(toQt(problem));
     }
-}
-
-void TKSVform1::FormClose()
-{
-    close();
+    bool kept = false;
+    const double moment = state.value(kMomentKey).toDouble(&kept);
+    if (kept) {
+        workspace_.setMoment(moment);
+    }
 }
 
 void TKSVform1::closeEvent(QCloseEvent* event)

@@ -92,9 +92,6 @@ public:
     void saveSession();
     void restoreSession();
 
-    /// Leaves the program after the questions.
-    void FormClose();
-
 protected:
     void closeEvent(QCloseEvent* event) override;
 

@@ -1,4 +1,4 @@
-#include "app/desktop/timing/WorkBar.h"
+#include "app/desktop/shell/WorkBar.h"
 
 #include "app/desktop/shell/BackgroundWork.h"
 
