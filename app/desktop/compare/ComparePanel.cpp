@@ -1,7 +1,7 @@
 #include "app/desktop/compare/ComparePanel.h"
 
 #include "app/desktop/options/SettingRows.h"
-#include "app/desktop/panels/TableExport.h"
+#include "app/desktop/panels/TableActions.h"
 #include "app/desktop/panels/TableView.h"
 #include "app/desktop/shell/Convert.h"
 #include "app/present/CompareTables.h"
@@ -81,12 +81,7 @@ ComparePanel::ComparePanel(Workspace& workspace, present::Panel panel, QWidget* 
             action->trigger();
         }
     });
-    auto* const copy = new QAction(tr("&Copy Table"), this);
-    connect(copy, &QAction::triggered, this, [this] { currentView()->copy(); });
-    auto* const save = new QAction(tr("&Save Table..."), this);
-    connect(save, &QAction::triggered, this,
-            [this] { saveTableAs(currentView()->table(), this->workspace(), this); });
-    actions_ = {copy, save};
+    actions_ = tableActions(this, workspace, [this] { return currentView(); });
     dependOn(OnChart | OnSecond | OnMoment);
 }
 

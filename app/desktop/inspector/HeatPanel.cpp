@@ -1,13 +1,12 @@
 #include "app/desktop/inspector/HeatPanel.h"
 
 #include "app/desktop/diagram/DisplayListPainter.h"
-#include "app/desktop/panels/TableExport.h"
+#include "app/desktop/panels/TableActions.h"
 #include "app/desktop/panels/TableView.h"
 #include "app/desktop/shell/Convert.h"
 #include "app/present/Colour.h"
 #include "app/present/DignityTables.h"
 
-#include <QAction>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -42,12 +41,7 @@ HeatPanel::HeatPanel(Workspace& workspace, present::Panel panel, QWidget* parent
     setFocusProxy(view_);
     connect(view_, &TableView::linkChosen, this, &HeatPanel::choose);
     connect(view_, &TableView::linkActivated, this, &HeatPanel::follow);
-    auto* const copy = new QAction(tr("&Copy Table"), this);
-    connect(copy, &QAction::triggered, view_, &TableView::copy);
-    auto* const save = new QAction(tr("&Save Table..."), this);
-    connect(save, &QAction::triggered, this,
-            [this] { saveTableAs(view_->table(), this->workspace(), this); });
-    actions_ = {copy, save};
+    actions_ = tableActions(this, workspace, view_);
 }
 
 QString HeatPanel::title() const

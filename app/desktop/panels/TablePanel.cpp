@@ -1,7 +1,7 @@
 #include "app/desktop/panels/TablePanel.h"
 
 #include "app/desktop/panels/ShownColumns.h"
-#include "app/desktop/panels/TableExport.h"
+#include "app/desktop/panels/TableActions.h"
 #include "app/desktop/panels/TableView.h"
 #include "app/desktop/shell/Convert.h"
 #include "app/present/TableCatalogue.h"
@@ -110,14 +110,11 @@ TablePanel::TablePanel(Workspace& workspace, present::Panel panel, QWidget* pare
     connect(view_, &TableView::linkChosen, this, &TablePanel::choose);
     connect(view_, &TableView::linkActivated, this, &TablePanel::follow);
 
-    auto* const copy = new QAction(tr("&Copy Table"), this);
-    connect(copy, &QAction::triggered, view_, &TableView::copy);
-    auto* const save = new QAction(tr("&Save Table..."), this);
-    connect(save, &QAction::triggered, this, &TablePanel::saveTable);
-    auto* const columns = new QAction(tr("C&olumns..."), this);
+    actions_ = tableActions(this, workspace, view_);
+    auto* const columns = new QAction(tr("&Columns..."), this);
     columns->setObjectName(QStringLiteral("ColumnsAction"));
     connect(columns, &QAction::triggered, this, &TablePanel::chooseShownColumns);
-    actions_ = {copy, save, columns};
+    actions_ += columns;
 }
 
 QString TablePanel::title() const
@@ -205,11 +202,6 @@ void TablePanel::chooseShownColumns()
     if (!whole_.columns.empty() && chooseColumns(whole_, this)) {
         view_->setTable(withColumns(whole_, shownColumns(whole_.id, whole_.columns.size())));
     }
-}
-
-void TablePanel::saveTable()
-{
-    saveTableAs(view_->table(), workspace(), this);
 }
 
 } // namespace kestrav::desktop

@@ -29,7 +29,6 @@ protected:
 
 private:
     void show(core::Result<present::Table> made);
-    void saveTable();
     void chooseShownColumns();
 
     TableView* view_;

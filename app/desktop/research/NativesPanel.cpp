@@ -1,12 +1,12 @@
 #include "app/desktop/research/NativesPanel.h"
 
 #include "app/desktop/database/OpenDatabase.h"
-#include "app/desktop/panels/TableExport.h"
+#include "app/desktop/panels/TableActions.h"
 #include "app/desktop/panels/TableModel.h"
 #include "app/desktop/panels/TableView.h"
 #include "app/desktop/shell/Convert.h"
 #include "app/desktop/shell/TMessages.h"
-#include "app/desktop/timing/WorkBar.h"
+#include "app/desktop/shell/WorkBar.h"
 #include "app/desktop/yogas/YogaDesk.h"
 #include "app/present/ResearchTables.h"
 #include "data/ChartDatabase.h"
@@ -74,12 +74,8 @@ NativesPanel::NativesPanel(Workspace& workspace, present::Panel panel, QWidget* 
     auto* const groupB = new QAction(tr("Make &B Group"), this);
     groupB->setToolTip(tr("Gives the tag of the B group to the charts that were found"));
     connect(groupB, &QAction::triggered, this, &NativesPanel::GroupBButtonClick);
-    auto* const copy = new QAction(tr("&Copy Table"), this);
-    connect(copy, &QAction::triggered, natives_, &TableView::copy);
-    auto* const save = new QAction(tr("Save &Table..."), this);
-    connect(save, &QAction::triggered, this,
-            [this] { saveTableAs(natives_->table(), this->workspace(), this); });
-    actions_ = {search, open, groupB, copy, save};
+    actions_ = {search, open, groupB};
+    actions_ += tableActions(this, workspace, natives_);
 
     auto* const searchButton = new QToolButton(this);
     searchButton->setObjectName(QStringLiteral("SearchButton"));

@@ -1,11 +1,12 @@
 #include "app/desktop/timing/EphemerisPanel.h"
 
-#include "app/desktop/panels/TableExport.h"
+#include "app/desktop/panels/FlowLayout.h"
+#include "app/desktop/panels/TableActions.h"
 #include "app/desktop/panels/TableView.h"
 #include "app/desktop/shell/Convert.h"
 #include "app/desktop/shell/StateFile.h"
+#include "app/desktop/shell/WorkBar.h"
 #include "app/desktop/timing/MomentText.h"
-#include "app/desktop/timing/WorkBar.h"
 #include "app/present/EphemerisTables.h"
 #include "core/Points.h"
 #include "timing/Ephemeris.h"
@@ -13,11 +14,9 @@
 #include "timing/MoonPhases.h"
 #include "timing/TransitSearch.h"
 
-#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCoreApplication>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -155,12 +154,8 @@ EphemerisPanel::EphemerisPanel(Workspace& workspace, present::Panel panel, QWidg
     layout->addWidget(tabs_, 1);
     setFocusProxy(positions_);
     dependOn(OnChart | OnMoment);
-    auto* const copy = new QAction(tr("&Copy Table"), this);
-    connect(copy, &QAction::triggered, this,
-            [this] { static_cast<TableView*>(tabs_->currentWidget())->copy(); });
-    auto* const save = new QAction(tr("&Save Table..."), this);
-    connect(save, &QAction::triggered, this, &EphemerisPanel::saveTable);
-    actions_ = {copy, save};
+    actions_ = tableActions(this, workspace,
+                            [this] { return static_cast<TableView*>(tabs_->currentWidget()); });
 }
 
 QLayout* EphemerisPanel::makeBar()
@@ -184,10 +179,7 @@ QLayout* EphemerisPanel::makeBar()
                                                         {declination_, "DeclinationCheckBox"},
                                                         {latitude_, "LatitudeCheckBox"},
                                                         {speed_, "SpeedCheckBox"}};
-    auto* const bar = new QHBoxLayout;
-    const int gap = fontMetrics().height() / 3;
-    bar->setContentsMargins(gap, gap, gap, gap);
-    bar->setSpacing(2 * gap);
+    auto* const bar = new FlowLayout(fontMetrics().height() / 3);
     bar->addWidget(span_);
     bar->addWidget(step_);
     for (const auto& [box, name] : boxes) {
@@ -196,7 +188,7 @@ QLayout* EphemerisPanel::makeBar()
         connect(box, &QCheckBox::clicked, this, &EphemerisPanel::ChoiceChange);
         bar->addWidget(box);
     }
-    bar->addStretch(1);
+    bar->addStretch();
     auto* const working = new WorkBar(work_, this);
     connect(working, &WorkBar::stopped, this,
             [this] { showNote(tr("Stopped before the table was complete.")); });
@@ -308,11 +300,6 @@ void EphemerisPanel::ChoiceChange()
         state.setValue(QLatin1String(kGroup) + box->objectName(), box->isChecked());
     }
     markDue();
-}
-
-void EphemerisPanel::saveTable()
-{
-    saveTableAs(static_cast<TableView*>(tabs_->currentWidget())->table(), workspace(), this);
 }
 
 } // namespace kestrav::desktop

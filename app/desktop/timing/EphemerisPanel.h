@@ -47,7 +47,6 @@ private:
     void showTables(Tables tables);
     void showNote(const QString& note);
     void ChoiceChange();
-    void saveTable();
 
     DayPage page_;
     /// What the tables belong to that are shown or being made; null for none.

@@ -1,6 +1,6 @@
 #include "app/desktop/timing/EventsPanel.h"
 
-#include "app/desktop/panels/TableExport.h"
+#include "app/desktop/panels/TableActions.h"
 #include "app/desktop/panels/TableView.h"
 #include "app/desktop/shell/Convert.h"
 #include "app/desktop/timing/RowMoments.h"
@@ -43,12 +43,7 @@ EventsPanel::EventsPanel(Workspace& workspace, present::Panel panel, QWidget* pa
     layout->addLayout(bar);
     layout->addWidget(view_, 1);
     setFocusProxy(view_);
-    auto* const copy = new QAction(tr("&Copy Table"), this);
-    connect(copy, &QAction::triggered, view_, &TableView::copy);
-    auto* const save = new QAction(tr("&Save Table..."), this);
-    connect(save, &QAction::triggered, this,
-            [this] { saveTableAs(view_->table(), this->workspace(), this); });
-    actions_ = {copy, save};
+    actions_ = tableActions(this, workspace, view_);
 }
 
 QString EventsPanel::title() const

@@ -1,11 +1,12 @@
 #include "app/desktop/timing/TransitListingPanel.h"
 
-#include "app/desktop/panels/TableExport.h"
+#include "app/desktop/panels/FlowLayout.h"
+#include "app/desktop/panels/TableActions.h"
 #include "app/desktop/panels/TableView.h"
 #include "app/desktop/shell/Convert.h"
+#include "app/desktop/shell/WorkBar.h"
 #include "app/desktop/timing/MomentText.h"
 #include "app/desktop/timing/TTransitChoicesDlg.h"
-#include "app/desktop/timing/WorkBar.h"
 #include "app/present/TextValues.h"
 #include "app/present/TransitTables.h"
 #include "core/Points.h"
@@ -14,7 +15,6 @@
 
 #include <QAction>
 #include <QComboBox>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTabWidget>
@@ -102,11 +102,12 @@ TransitListingPanel::TransitListingPanel(Workspace& workspace, present::Panel pa
 
     auto* const choices = new QAction(tr("Transit &Choices..."), this);
     connect(choices, &QAction::triggered, this, &TransitListingPanel::ChoicesButtonClick);
-    auto* const copy = new QAction(tr("C&opy Table"), this);
-    connect(copy, &QAction::triggered, this, [this] { events_->copy(); });
-    auto* const save = new QAction(tr("&Save Table..."), this);
-    connect(save, &QAction::triggered, this, &TransitListingPanel::saveTable);
-    actions_ = {choices, copy, save};
+    actions_ = {choices};
+    actions_ += tableActions(this, workspace, [this] {
+        return tabs_->currentIndex() == 1   ? kakshyas_
+               : tabs_->currentIndex() == 2 ? phases_
+                                            : events_;
+    });
 }
 
 QLayout* TransitListingPanel::makeBar()
@@ -132,13 +133,10 @@ QLayout* TransitListingPanel::makeBar()
         note_->setText(tr("Stopped before the list was complete."));
         note_->show();
     });
-    auto* const bar = new QHBoxLayout;
-    const int gap = fontMetrics().height() / 3;
-    bar->setContentsMargins(gap, gap, gap, gap);
-    bar->setSpacing(gap);
-    bar->addWidget(arrow(Qt::LeftArrow, "DaysBackButton", tr("The days before"), -1));
-    bar->addWidget(arrow(Qt::RightArrow, "DaysForwardButton", tr("The days after"), 1));
-    bar->addWidget(days_, 1);
+    auto* const bar = new FlowLayout(fontMetrics().height() / 3);
+    bar->addTogether({arrow(Qt::LeftArrow, "DaysBackButton", tr("The days before"), -1),
+                      arrow(Qt::RightArrow, "DaysForwardButton", tr("The days after"), 1), days_});
+    bar->addStretch();
     bar->addWidget(working);
     bar->addWidget(choices);
     return bar;
@@ -166,13 +164,10 @@ QWidget* TransitListingPanel::makeEvents()
     connect(kind_, &QComboBox::currentIndexChanged, this, &TransitListingPanel::showEvents);
     connect(filter_, &QLineEdit::textChanged, this, &TransitListingPanel::showEvents);
     auto* const page = new QWidget(this);
-    auto* const bar = new QHBoxLayout;
-    const int gap = fontMetrics().height() / 3;
-    bar->setContentsMargins(gap, gap, gap, gap);
-    bar->setSpacing(gap);
+    auto* const bar = new FlowLayout(fontMetrics().height() / 3);
     bar->addWidget(body_);
     bar->addWidget(kind_);
-    bar->addWidget(filter_, 1);
+    bar->addWidget(filter_);
     auto* const layout = new QVBoxLayout(page);
     layout->setContentsMargins({});
     layout->setSpacing(0);
@@ -303,14 +298,6 @@ void TransitListingPanel::ChoicesButtonClick()
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this, &TransitListingPanel::readChoices);
     dialog->open();
-}
-
-void TransitListingPanel::saveTable()
-{
-    const TableView* const view = tabs_->currentIndex() == 1   ? kakshyas_
-                                  : tabs_->currentIndex() == 2 ? phases_
-                                                               : events_;
-    saveTableAs(view->table(), workspace(), this);
 }
 
 void TransitListingPanel::turnPage(int direction)

@@ -42,7 +42,6 @@ private:
     void showDays();
     [[nodiscard]] bool passesFilters(const timing::TransitEvent& event) const;
     void ChoicesButtonClick();
-    void saveTable();
     void turnPage(int direction);
 
     TransitChoices choices_;

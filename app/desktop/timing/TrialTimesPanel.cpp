@@ -1,11 +1,12 @@
 #include "app/desktop/timing/TrialTimesPanel.h"
 
 #include "app/desktop/database/OpenDatabase.h"
-#include "app/desktop/panels/TableExport.h"
+#include "app/desktop/panels/FlowLayout.h"
+#include "app/desktop/panels/TableActions.h"
 #include "app/desktop/panels/TableModel.h"
 #include "app/desktop/panels/TableView.h"
 #include "app/desktop/shell/Convert.h"
-#include "app/desktop/timing/WorkBar.h"
+#include "app/desktop/shell/WorkBar.h"
 #include "app/present/TypedDate.h"
 #include "core/DateTime.h"
 #include "data/BirthTexts.h"
@@ -13,7 +14,6 @@
 
 #include <QAction>
 #include <QComboBox>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSpinBox>
@@ -65,12 +65,8 @@ TrialTimesPanel::TrialTimesPanel(Workspace& workspace, present::Panel panel, QWi
     layout->addWidget(tabs_, 1);
     layout->addWidget(note_);
     setFocusProxy(ascendants_);
-    auto* const copy = new QAction(tr("&Copy Table"), this);
-    connect(copy, &QAction::triggered, this,
-            [this] { static_cast<TableView*>(tabs_->currentWidget())->copy(); });
-    auto* const save = new QAction(tr("&Save Table..."), this);
-    connect(save, &QAction::triggered, this, &TrialTimesPanel::saveTable);
-    actions_ = {copy, save};
+    actions_ = tableActions(this, workspace,
+                            [this] { return static_cast<TableView*>(tabs_->currentWidget()); });
 }
 
 QLayout* TrialTimesPanel::makeBar()
@@ -91,24 +87,17 @@ QLayout* TrialTimesPanel::makeBar()
     unit_->addItems({tr("seconds"), tr("minutes")});
     unit_->setCurrentIndex(1);
     connect(unit_, &QComboBox::activated, this, [this] { markDue(); });
-    auto* const bar = new QHBoxLayout;
-    const int gap = fontMetrics().height() / 3;
-    bar->setContentsMargins(gap, gap, gap, gap);
-    bar->setSpacing(gap);
-    const auto labelled = [this, bar, gap](const QString& text, QWidget* field) {
-        auto* const label = new QLabel(text, this);
-        label->setBuddy(field);
+    auto* const bar = new FlowLayout(fontMetrics().height() / 3);
+    const auto label = [this](const QString& text, QWidget* field) {
+        auto* const made = new QLabel(text, this);
+        made->setBuddy(field);
         field->setAccessibleName(QString(text).remove(QLatin1Char('&')).remove(QLatin1Char(':')));
-        bar->addWidget(label);
-        bar->addWidget(field);
-        bar->addSpacing(gap);
+        return made;
     };
-    labelled(tr("Steps to both sides:"), count_);
-    labelled(tr("of"), step_);
-    bar->addWidget(unit_);
-    bar->addSpacing(gap);
-    labelled(tr("Dasha levels:"), levels_);
-    bar->addStretch(1);
+    bar->addTogether({label(tr("Steps to both sides:"), count_), count_});
+    bar->addTogether({label(tr("of"), step_), step_, unit_});
+    bar->addTogether({label(tr("Dasha levels:"), levels_), levels_});
+    bar->addStretch();
     takeOver_->setObjectName(QStringLiteral("TakeOverButton"));
     takeOver_->setText(tr("Take Over..."));
     takeOver_->setToolTip(tr("Enters the chosen time into the data of the chart"));
@@ -209,11 +198,6 @@ void TrialTimesPanel::TakeOverButtonClick()
         date->setText(toQt(present::typedDate({born.year, born.month, born.day},
                                               workspace().database().charts().order())));
     }
-}
-
-void TrialTimesPanel::saveTable()
-{
-    saveTableAs(static_cast<TableView*>(tabs_->currentWidget())->table(), workspace(), this);
 }
 
 } // namespace kestrav::desktop

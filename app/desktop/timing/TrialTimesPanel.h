@@ -35,7 +35,6 @@ protected:
 private:
     QLayout* makeBar();
     void showTables(const present::TrialTables& tables);
-    void saveTable();
     /// The data entry with the time of the chosen row typed into it, to be confirmed there.
     void TakeOverButtonClick();
 
