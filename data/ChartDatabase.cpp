@@ -52,11 +52,17 @@ core::Result<void> ChartDatabase::save(const std::filesystem::path& path,
     const std::vector<std::uint8_t> bytes = lines_.bytes();
     core::Result<void> written = core::writeFileSafely(path, bytes, afterStep);
     if (written) {
-        path_ = path;
-        stamp_ = stampOf(path);
-        modified_ = false;
+        setSaved(path, stampOf(path), false);
     }
     return written;
+}
+
+void ChartDatabase::setSaved(const std::filesystem::path& path, const FileStamp& stamp,
+                             bool modified)
+{
+    path_ = path;
+    stamp_ = stamp;
+    modified_ = modified;
 }
 
 bool ChartDatabase::changedOnDisk() const

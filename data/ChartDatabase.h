@@ -38,6 +38,10 @@ public:
     save(const std::filesystem::path& path,
          const std::function<void(core::WriteStep)>& afterStep = {});
 
+    /// Notes that the lines were written to the file by other means, which had the stamp then.
+    /// `modified` when lines were changed after that.
+    void setSaved(const std::filesystem::path& path, const FileStamp& stamp, bool modified);
+
     [[nodiscard]] const std::filesystem::path& path() const
     {
         return path_;

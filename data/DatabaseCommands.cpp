@@ -34,15 +34,8 @@ Outcome writeTo(ChartDatabase& database, const fs::path& path, core::Messages& m
     if (saved) {
         return Outcome::Done;
     }
-    messages.notice(kErrorCaption,
-                    kSavingError + (L" " + core::fromFileBytes(saved.error().text())));
+    tellSavingError(saved.error(), messages);
     return Outcome::Failed;
-}
-
-// Whether the file may be written: there is none, or the user agrees to replace it.
-bool mayReplace(const fs::path& path, core::Messages& messages)
-{
-    return !stampOf(path).exists() || agrees(messages, kWarningCaption, kOverwrite);
 }
 
 bool sameFile(const fs::path& a, const fs::path& b)
@@ -52,6 +45,27 @@ bool sameFile(const fs::path& a, const fs::path& b)
 }
 
 } // namespace
+
+bool agreesToReplace(const fs::path& path, core::Messages& messages)
+{
+    return !stampOf(path).exists() || agrees(messages, kWarningCaption, kOverwrite);
+}
+
+std::optional<fs::path> agreeToSave(const ChartDatabase& database, const fs::path& path,
+                                    core::Messages& messages)
+{
+    if (!sameFile(path, database.path())) {
+        return agreesToReplace(path, messages) ? std::optional(path) : std::nullopt;
+    }
+    const bool agreed = !database.changedOnDisk() ||
+                        agrees(messages, kWarningCaption, changedOnDiskQuestion(database.path()));
+    return agreed ? std::optional(database.path()) : std::nullopt;
+}
+
+void tellSavingError(const core::Error& problem, core::Messages& messages)
+{
+    messages.notice(kErrorCaption, kSavingError + (L" " + core::fromFileBytes(problem.text())));
+}
 
 Outcome openDatabase(ChartDatabase& database, const fs::path& path, core::Messages& messages)
 {
@@ -69,7 +83,7 @@ Outcome openDatabase(ChartDatabase& database, const fs::path& path, core::Messag
 
 Outcome newDatabase(ChartDatabase& database, const fs::path& path, core::Messages& messages)
 {
-    if (!mayReplace(path, messages)) {
+    if (!agreesToReplace(path, messages)) {
         return Outcome::Cancelled;
     }
     ChartDatabase fresh(database.order());
@@ -83,33 +97,41 @@ Outcome newDatabase(ChartDatabase& database, const fs::path& path, core::Message
 
 Outcome saveDatabase(ChartDatabase& database, core::Messages& messages)
 {
-    if (database.changedOnDisk() &&
-        !agrees(messages, kWarningCaption, changedOnDiskQuestion(database.path()))) {
-        return Outcome::Cancelled;
-    }
-    return writeTo(database, database.path(), messages);
+    return saveDatabaseAs(database, database.path(), messages);
 }
 
 Outcome saveDatabaseAs(ChartDatabase& database, const fs::path& path, core::Messages& messages)
 {
-    if (sameFile(path, database.path())) {
-        return saveDatabase(database, messages);
+    const std::optional<fs::path> target = agreeToSave(database, path, messages);
+    return target ? writeTo(database, *target, messages) : Outcome::Cancelled;
+}
+
+bool turnDates(ChartDatabase& database, const LongWork& work)
+{
+    constexpr std::size_t kLinesBetweenLooks = 256;
+    const DateOrder target = otherOrder(database.order());
+    core::Chart chart;
+    for (std::size_t i = 0; i < database.size(); ++i) {
+        if (i % kLinesBetweenLooks == 0) {
+            if (work.progress) {
+                work.progress(i, database.size());
+            }
+            if (work.cancelled()) {
+                return false;
+            }
+        }
+        if (!isShortLine(database.line(i))) {
+            database.replaceLine(i, FormatChartLine(database.read(i, chart), target));
+        }
     }
-    return mayReplace(path, messages) ? writeTo(database, path, messages) : Outcome::Cancelled;
+    database.setOrder(target);
+    return true;
 }
 
 Outcome saveInOtherOrder(ChartDatabase& database, core::Messages& messages)
 {
-    const DateOrder before = database.order();
-    const DateOrder target = otherOrder(before);
     ChartDatabase turned = database;
-    core::Chart chart;
-    for (std::size_t i = 0; i < turned.size(); ++i) {
-        if (!isShortLine(turned.line(i))) {
-            turned.replaceLine(i, FormatChartLine(turned.read(i, chart), target));
-        }
-    }
-    turned.setOrder(target);
+    turnDates(turned);
     const Outcome outcome = saveDatabase(turned, messages);
     if (outcome == Outcome::Done) {
         database = std::move(turned);
@@ -124,7 +146,7 @@ void announceBackup(core::Messages& messages)
 
 Outcome backUpDatabase(const ChartDatabase& database, const fs::path& to, core::Messages& messages)
 {
-    if (!mayReplace(to, messages)) {
+    if (!agreesToReplace(to, messages)) {
         return Outcome::Cancelled;
     }
     ChartDatabase copy = database;
@@ -138,7 +160,7 @@ Outcome restoreDatabase(ChartDatabase& database, const fs::path& from, const fs:
     if (openDatabase(restored, from, messages) == Outcome::Failed) {
         return Outcome::Failed;
     }
-    if (!mayReplace(to, messages)) {
+    if (!agreesToReplace(to, messages)) {
         return Outcome::Cancelled;
     }
     const Outcome outcome = writeTo(restored, to, messages);
@@ -170,8 +192,16 @@ std::wstring unusedName(const std::unordered_set<std::wstring>& taken, std::wstr
     return marks;
 }
 
+std::optional<std::size_t> lineOfName(const ChartDatabase& database, std::wstring_view name,
+                                      std::optional<std::size_t> own)
+{
+    const bool itself = own && *own < database.size() && nameOfLine(database.line(*own)) == name;
+    return itself ? own : database.find(name);
+}
+
 std::optional<std::size_t> saveChart(ChartDatabase& database, const core::Chart& chart,
-                                     const SaveQuestions& questions, core::Messages& messages)
+                                     const SaveQuestions& questions, core::Messages& messages,
+                                     std::optional<std::size_t> own)
 {
     constexpr int kFourDigits = 1000;
     const int year = chart.time.year;
@@ -184,7 +214,7 @@ std::optional<std::size_t> saveChart(ChartDatabase& database, const core::Chart&
     }
     core::Chart entry = chart;
     cleanRecord(entry);
-    const std::optional<std::size_t> known = database.find(entry.name);
+    const std::optional<std::size_t> known = lineOfName(database, entry.name, own);
     if (!known) {
         return database.add(entry);
     }
@@ -214,12 +244,13 @@ Outcome deleteChart(ChartDatabase& database, std::wstring_view name, core::Messa
     return Outcome::Done;
 }
 
-Outcome changeGroup(ChartDatabase& database, wchar_t group, const std::vector<std::size_t>& lines,
-                    core::Messages& messages)
+bool agreesToChangeGroup(wchar_t group, core::Messages& messages)
 {
-    if (!agrees(messages, kNoticeCaption, group == L'A' ? kChangeGroupA : kChangeGroupB)) {
-        return Outcome::Cancelled;
-    }
+    return agrees(messages, kNoticeCaption, group == L'A' ? kChangeGroupA : kChangeGroupB);
+}
+
+void setGroup(ChartDatabase& database, wchar_t group, const std::vector<std::size_t>& lines)
+{
     const std::set<std::size_t> members(lines.begin(), lines.end());
     for (std::size_t i = 0; i < database.size(); ++i) {
         const bool tagged = tagOfLine(database.line(i)) == group;
@@ -227,6 +258,15 @@ Outcome changeGroup(ChartDatabase& database, wchar_t group, const std::vector<st
             database.setTag(i, tagged ? L' ' : group);
         }
     }
+}
+
+Outcome changeGroup(ChartDatabase& database, wchar_t group, const std::vector<std::size_t>& lines,
+                    core::Messages& messages)
+{
+    if (!agreesToChangeGroup(group, messages)) {
+        return Outcome::Cancelled;
+    }
+    setGroup(database, group, lines);
     return saveDatabase(database, messages);
 }
 
