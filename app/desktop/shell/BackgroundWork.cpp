@@ -24,6 +24,16 @@ void WorkHandle::progress(std::size_t done, std::size_t total) const
     }
 }
 
+data::LongWork WorkHandle::longWork() const
+{
+    data::LongWork work;
+    work.cancel = cancelFlag();
+    work.progress = [this](std::size_t done, std::size_t total) {
+        progress(done, total);
+    };
+    return work;
+}
+
 BackgroundWork::BackgroundWork(QObject* parent) : QObject(parent)
 {}
 

@@ -31,12 +31,21 @@ public:
     }
     /// Shows how far the work is; `total` 0 for not known.
     void progress(std::size_t done, std::size_t total) const;
+    /// The same for work of the floors below, which must not outlive the handle.
+    [[nodiscard]] data::LongWork longWork() const;
 
 private:
     friend class BackgroundWork;
     // Shared, because work that was given up may outlive the panel that began it.
     std::shared_ptr<std::atomic<bool>> cancel_ = std::make_shared<std::atomic<bool>>(false);
     std::function<void(std::size_t, std::size_t)> progress_;
+};
+
+/// What becomes of work that is given up before a thread was free for it.
+enum class IfGivenUp
+{
+    Skip,
+    DoAnyway, ///< somebody relies on what it does besides its result
 };
 
 /// One piece of work at a time: starting another gives up the one before, whose result is dropped.
@@ -54,22 +63,25 @@ public:
     /// work must not touch widgets, nor anything that may change or go meanwhile. `done` is not
     /// called for work that was cancelled or given up.
     template <typename Work, typename Done>
-    void start(Work work, Done done)
+    void start(Work work, Done done, IfGivenUp ifGivenUp = IfGivenUp::Skip)
     {
         using Value = std::invoke_result_t<Work, const WorkHandle&>;
         const WorkHandle handle = begin();
         const int number = number_;
         QPointer<BackgroundWork> self(this);
-        pool()->start(
-            [handle, number, self, work = std::move(work), done = std::move(done)]() mutable {
-                // Functions of the toolkit are copied; the result may not be copyable.
-                auto value = std::make_shared<Value>(work(handle));
-                deliver(self, [self, number, value, done = std::move(done)]() mutable {
-                    if (self && self->finish(number)) {
-                        done(std::move(*value));
-                    }
-                });
+        pool()->start([handle, number, self, ifGivenUp, work = std::move(work),
+                       done = std::move(done)]() mutable {
+            if (ifGivenUp == IfGivenUp::Skip && handle.cancelled()) {
+                return;
+            }
+            // Functions of the toolkit are copied; the result may not be copyable.
+            auto value = std::make_shared<Value>(work(handle));
+            deliver(self, [self, number, value, done = std::move(done)]() mutable {
+                if (self && self->finish(number)) {
+                    done(std::move(*value));
+                }
             });
+        });
     }
 
     [[nodiscard]] bool running() const
