@@ -11,11 +11,13 @@
 #include "data/DatabaseMessages.h"
 
 #include <QApplication>
+#include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrinter>
+#include <QThreadPool>
 
 #include <numeric>
 #include <utility>
@@ -63,14 +65,20 @@ void paintSheets(const PaperLayout& layout, QPainter& painter, Device& device)
     }
 }
 
-// Lets every panel finish what it shows, also those whose work runs on another thread.
+// Lets every panel finish what it shows, also those whose work runs on another thread. The window
+// is painted meanwhile.
 void finishPanels(PageView& page)
 {
     for (PanelCell* const cell : page.cells()) {
         cell->panel()->refreshNow();
     }
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    BackgroundWork::waitForAll();
+    QEventLoop loop;
+    QThreadPool::globalInstance()->start([&loop] {
+        BackgroundWork::waitForAll();
+        QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
+    });
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     QApplication::restoreOverrideCursor();
 }
