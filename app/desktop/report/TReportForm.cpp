@@ -72,6 +72,8 @@ TReportForm::TReportForm(Workspace& workspace, present::Panel panel, QWidget* pa
     browser_->setAccessibleName(tr("The report"));
     browser_->setFrameShape(QFrame::NoFrame);
     browser_->setOpenLinks(false);
+    // A bar that comes and goes makes the browser arrange a long text three times.
+    browser_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
 
     const auto button = [this](const QString& text, const char* name, auto handler) {
         auto* const made = new QPushButton(text, this);
