@@ -6,10 +6,10 @@
 #include "app/cli/Console.h"
 #include "app/cli/JsonValues.h"
 #include "app/cli/SharedOptions.h"
-#include "app/cli/TextTable.h"
-#include "app/cli/TextValues.h"
 #include "app/present/BirthRecord.h"
 #include "app/present/Clock.h"
+#include "app/present/TextTable.h"
+#include "app/present/TextValues.h"
 #include "core/FileText.h"
 #include "core/NumberText.h"
 #include "data/BirthTexts.h"
@@ -80,8 +80,9 @@ Json placeJson(const data::Places& places, const data::Place& place)
 
 std::wstring placesText(const data::Places& places, const std::vector<std::uint32_t>& matches)
 {
-    using Align = TextTable::Align;
-    TextTable table({{L"Place"}, {L"Longitude"}, {L"Zone"}, {L"Population", Align::Right}});
+    using Align = present::TextTable::Align;
+    present::TextTable table(
+        {{L"Place"}, {L"Longitude"}, {L"Zone"}, {L"Population", Align::Right}});
     for (const std::uint32_t number : matches) {
         const data::Place& place = places.place(number);
         const std::wstring population =
@@ -158,11 +159,11 @@ Json zoneJson(const data::PlaceAnswer& answer)
 std::wstring zoneTextOf(const data::PlaceAnswer& answer, const core::DateTimeRecord& local,
                         const std::wstring& name)
 {
-    LabelledLines lines;
+    present::LabelledLines lines;
     lines.add(L"Place", name);
     lines.add(L"Longitude", data::longitudeText(answer.longitude));
     lines.add(L"Latitude", data::latitudeText(answer.latitude));
-    lines.add(L"Local time", dateText(local) + L" " + data::timeText(local.localTime));
+    lines.add(L"Local time", present::dateText(local) + L" " + data::timeText(local.localTime));
     lines.add(L"Zone", core::fromFileBytes(answer.zoneName));
     lines.add(L"Standard time", data::zoneText(answer.time.zone));
     lines.add(L"Saving time", std::to_wstring(answer.time.daylightSaving) + L" h");

@@ -4,8 +4,7 @@
 #include "app/cli/Console.h"
 #include "app/cli/SettingsJson.h"
 #include "app/cli/SharedOptions.h"
-#include "app/cli/TextTable.h"
-#include "app/cli/TextValues.h"
+#include "app/present/TextTable.h"
 #include "astro/Ayanamsa.h"
 #include "core/FileText.h"
 #include "core/NumberText.h"
@@ -158,12 +157,12 @@ void printTable(const Command& command, const Arguments& arguments, const core::
         console.print(jsonText(object));
         return;
     }
-    TextTable table({{L"Row", TextTable::Align::Right},
-                     {L"Name"},
-                     {L"Epoch", TextTable::Align::Right},
-                     {L"Value", TextTable::Align::Right},
-                     {L"Rate", TextTable::Align::Right},
-                     {L""}});
+    present::TextTable table({{L"Row", present::TextTable::Align::Right},
+                              {L"Name"},
+                              {L"Epoch", present::TextTable::Align::Right},
+                              {L"Value", present::TextTable::Align::Right},
+                              {L"Rate", present::TextTable::Align::Right},
+                              {L""}});
     for (std::size_t i = 0; i < settings.ayanamsaTable.size(); ++i) {
         const core::AyanamsaRow& row = settings.ayanamsaTable[i];
         table.add({std::to_wstring(i), core::fromFileBytes(row.nameText()),

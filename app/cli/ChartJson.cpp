@@ -1,13 +1,13 @@
 #include "app/cli/ChartJson.h"
 
-#include "app/cli/TextValues.h"
+#include "app/present/TextValues.h"
+#include "app/present/TransitChoices.h"
 #include "astro/Ayanamsa.h"
 #include "astro/SiderealTime.h"
 #include "core/numeric.h"
 
 #include <nlohmann/json.hpp>
 
-#include <algorithm>
 #include <initializer_list>
 #include <optional>
 
@@ -30,11 +30,6 @@ Json nulls(std::initializer_list<const char*> keys)
     return object;
 }
 
-bool isBody(int point)
-{
-    return std::find(core::kBodies.begin(), core::kBodies.end(), point) != core::kBodies.end();
-}
-
 void addBodyData(Json& object, const core::Chart& chart, int point)
 {
     object["retrograde"] = at(chart.retrograde, point);
@@ -53,7 +48,7 @@ Json pointJson(const core::Chart& chart, int point)
 {
     Json object;
     object["index"] = point;
-    object["name"] = textJson(pointLabel(point));
+    object["name"] = textJson(present::pointLabel(point));
     for (const char* const key :
          {"longitude", "speed", "latitude", "declination", "rashi", "degreeInSign", "navamshaSign",
           "nakshatraPosition", "nakshatra", "pada", "retrograde", "motionCode", "combust"}) {
@@ -68,9 +63,9 @@ Json pointJson(const core::Chart& chart, int point)
     object["degreeInSign"] = numberJson(at(chart.degreeInSign, point));
     object["navamshaSign"] = at(chart.navamshaSign, point);
     object["nakshatraPosition"] = numberJson(position);
-    object["nakshatra"] = nakshatraOf(position);
-    object["pada"] = padaOf(position);
-    if (isBody(point)) {
+    object["nakshatra"] = present::nakshatraOf(position);
+    object["pada"] = present::padaOf(position);
+    if (present::movesByItself(point)) {
         addBodyData(object, chart, point);
     } else {
         object["motionCode"] = int(core::Motion::None);

@@ -1,7 +1,7 @@
 #include "app/cli/DashaCommandOptions.h"
 
-#include "app/cli/TextValues.h"
 #include "app/present/Clock.h"
+#include "app/present/TextValues.h"
 #include "core/FileText.h"
 #include "core/Points.h"
 #include "timing/DashaOptions.h"
@@ -127,7 +127,7 @@ std::vector<std::string> startPointNames()
 {
     std::vector<std::string> names;
     for (int point = core::kAscendant; point <= core::kKetu; ++point) {
-        names.push_back(core::toUtf8(pointLabel(point)));
+        names.push_back(core::toUtf8(present::pointLabel(point)));
     }
     names.insert(names.end(), {"Kshema", "Utpanna", "Sadha", "Adhana"});
     return names;

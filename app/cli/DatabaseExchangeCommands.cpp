@@ -3,8 +3,8 @@
 #include "app/cli/ChartSource.h"
 #include "app/cli/Console.h"
 #include "app/cli/SharedOptions.h"
-#include "app/cli/TextTable.h"
 #include "app/present/BirthRecord.h"
+#include "app/present/TextTable.h"
 #include "core/FileText.h"
 #include "data/DatabaseMessages.h"
 #include "data/Merge.h"
@@ -64,7 +64,7 @@ std::optional<data::MergeChanged> changedOf(const std::string& word)
 
 std::wstring previewText(const data::MergePreview& preview)
 {
-    TextTable table({{L"Line", TextTable::Align::Right}, {L"Here"}, {L"Name"}});
+    present::TextTable table({{L"Line", present::TextTable::Align::Right}, {L"Here"}, {L"Name"}});
     for (const data::MergeEntry& entry : preview.entries) {
         table.add(
             {std::to_wstring(entry.theirLine + 1), std::wstring(wordOf(entry.kind)), entry.name});

@@ -2,9 +2,9 @@
 
 #include "app/cli/BirthData.h"
 #include "app/cli/ChartSource.h"
-#include "app/cli/TextTable.h"
-#include "app/cli/TextValues.h"
 #include "app/present/BirthRecord.h"
+#include "app/present/TextTable.h"
+#include "app/present/TextValues.h"
 #include "core/FileText.h"
 #include "core/NumberText.h"
 #include "data/BirthTexts.h"
@@ -205,7 +205,7 @@ std::wstring plainDateText(const core::PlainDate& date)
     record.year = date.year;
     record.month = date.month;
     record.day = date.day;
-    return date == core::PlainDate{} ? std::wstring() : dateText(record);
+    return date == core::PlainDate{} ? std::wstring() : present::dateText(record);
 }
 
 } // namespace
@@ -251,7 +251,7 @@ Json recordJson(const core::Chart& chart)
 std::wstring recordText(const core::Chart& chart)
 {
     const core::Identity& identity = chart.identity;
-    LabelledLines lines;
+    present::LabelledLines lines;
     const auto add = [&](std::wstring_view label, const std::wstring& text) {
         if (!text.empty()) {
             lines.add(std::wstring(label), text);
@@ -262,7 +262,7 @@ std::wstring recordText(const core::Chart& chart)
     add(L"Label", identity.label);
     add(L"Sex", identity.sex);
     add(L"Code", identity.code);
-    add(L"Date", dateText(chart.time));
+    add(L"Date", present::dateText(chart.time));
     add(L"Time", chart.timeText);
     add(L"Place", present::placeLabel(chart));
     add(L"Zone", chart.zoneText);

@@ -5,13 +5,13 @@
 #include "app/cli/Console.h"
 #include "app/cli/Progress.h"
 #include "app/cli/SharedOptions.h"
-#include "app/cli/TextTable.h"
+#include "app/cli/YogaCommandResearch.h"
 #include "app/present/BirthRecord.h"
+#include "app/present/TextTable.h"
 #include "core/FileText.h"
 #include "data/CheckDatabaseLine.h"
 #include "data/DatabaseMessages.h"
 #include "data/ResearchDatabase.h"
-#include "data/ResearchRebuild.h"
 
 #include <nlohmann/json.hpp>
 
@@ -107,7 +107,7 @@ Json checkJson(const DatabaseCall& call, const DatabaseCheck& check, data::Resea
 std::wstring checkText(const DatabaseCall& call, const DatabaseCheck& check,
                        data::ResearchState research)
 {
-    LabelledLines lines;
+    present::LabelledLines lines;
     lines.add(L"Lines", std::to_wstring(call.database.size()));
     lines.add(L"Charts", std::to_wstring(check.charts));
     lines.add(L"Problems", std::to_wstring(check.problems.size()));
@@ -208,33 +208,8 @@ ExitCode RefreshResearchCommand::work(DatabaseCall& call) const
     if (!data) {
         return code;
     }
-    // It lives until the files are written, so that Ctrl+C does not end the program in between.
-    Progress progress(
-        [](std::size_t done, std::size_t /*total*/) { return data::updateCount(done); });
-    call.messages.setProgress(&progress);
-    data::LongWork work;
-    work.progress = [&](std::size_t done, std::size_t total) {
-        progress.show(done, total);
-    };
-    work.cancel = Progress::cancelFlag();
-    const std::optional<data::ResearchLines> lines =
-        data::rebuildResearch(call.database, call.settings, data->data.series, call.messages, work);
-    progress.clear();
-    if (Progress::cancelled()) {
-        return interrupted(call);
-    }
-    if (!lines) {
-        return ExitCode::Failed;
-    }
-    if (call.database.modified() && saveCall(call) != ExitCode::Done) {
-        return ExitCode::Failed;
-    }
-    const core::Result<void> saved = data::saveResearch(call.database, call.settings, *lines);
-    if (!saved) {
-        call.messages.notice(data::kErrorCaption,
-                             data::kSavingError +
-                                 (L" " + core::fromFileBytes(saved.error().text())));
-        return ExitCode::Failed;
+    if (!refreshedResearch(call, data->data.series, code)) {
+        return code;
     }
     printRefreshed(call, true);
     return ExitCode::Done;

@@ -1,7 +1,7 @@
 #include "app/cli/Explanations.h"
 
-#include "app/cli/TextTable.h"
-#include "app/cli/TextValues.h"
+#include "app/present/TextTable.h"
+#include "app/present/TextValues.h"
 #include "core/FileText.h"
 
 #include <nlohmann/json.hpp>
@@ -29,7 +29,8 @@ std::wstring itemsText(std::wstring_view heading, const std::vector<std::wstring
 {
     std::wstring text;
     for (const std::wstring& item : items) {
-        text += (text.empty() ? std::wstring(heading) + L"\n" : L"") + wrapped(item, L"  - ");
+        text +=
+            (text.empty() ? std::wstring(heading) + L"\n" : L"") + present::wrapped(item, L"  - ");
     }
     return text;
 }
@@ -44,7 +45,8 @@ bool asksForTopics(const Arguments& arguments)
 
 std::wstring topicsText()
 {
-    TextTable table({{L"Query"}, {L"Example"}, {L"What it explains", TextTable::Align::Wrapped}});
+    present::TextTable table(
+        {{L"Query"}, {L"Example"}, {L"What it explains", present::TextTable::Align::Wrapped}});
     for (const analysis::ExplainTopic& topic : analysis::explainTopics()) {
         table.add({core::fromFileBytes(topic.form), core::fromFileBytes(topic.example),
                    core::fromFileBytes(topic.meaning)});
@@ -86,7 +88,7 @@ std::wstring explanationsText(const std::vector<analysis::Explanation>& explanat
 {
     std::wstring text;
     for (const analysis::Explanation& explanation : explanations) {
-        text += L"\n" + wrapped(explanation.subject + L": " + explanation.result, L"");
+        text += L"\n" + present::wrapped(explanation.subject + L": " + explanation.result, L"");
         text += itemsText(L"How it comes about", explanation.steps);
         text += itemsText(L"Settings", explanation.settings);
     }

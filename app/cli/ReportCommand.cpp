@@ -206,6 +206,38 @@ bool hasSecondChart(const Arguments& arguments)
                        [&](const OptionInfo& option) { return arguments.has(option.name); });
 }
 
+// What a report or its tables are made from, but for a second chart.
+struct ReportCall
+{
+    yoga::YogaLibrary library;
+    CallData data;
+    ComputedChart computed;
+
+    [[nodiscard]] const yoga::YogaLibrary* yogas() const
+    {
+        return library.files().empty() ? nullptr : &library;
+    }
+};
+
+// Nothing after a failure, which has been reported with its exit code in `code`.
+std::optional<ReportCall> openReport(const Arguments& arguments, const BirthData& birth,
+                                     Console& console, ExitCode& code)
+{
+    core::Result<yoga::YogaLibrary> library = yogaLibrary(arguments);
+    if (!library) {
+        console.error(library.error().text());
+        code = ExitCode::Failed;
+        return std::nullopt;
+    }
+    std::optional<CallData> data = openCall(arguments, console, code);
+    std::optional<ComputedChart> computed =
+        data ? computeChart(*data, birth, console, code) : std::nullopt;
+    if (!computed) {
+        return std::nullopt;
+    }
+    return ReportCall{std::move(library.value()), std::move(*data), std::move(*computed)};
+}
+
 } // namespace
 
 TableCommand::TableCommand()
@@ -237,46 +269,38 @@ ExitCode TableCommand::run(const Arguments& arguments, Console& console) const
         }
         secondBirth = std::move(read.value());
     }
-    const core::Result<yoga::YogaLibrary> library = yogaLibrary(arguments);
-    if (!library) {
-        console.error(library.error().text());
-        return ExitCode::Failed;
-    }
     ExitCode code = ExitCode::Done;
-    const std::optional<CallData> call = openCall(arguments, console, code);
+    const std::optional<ReportCall> call = openReport(arguments, birth.value(), console, code);
     if (!call) {
         return code;
     }
-    const std::optional<ComputedChart> computed = computeChart(*call, birth.value(), console, code);
-    if (!computed) {
-        return code;
-    }
+    const ComputedChart& computed = call->computed;
     std::optional<ComputedChart> second;
     if (secondBirth) {
-        second = computeChart(*call, *secondBirth, console, code);
+        second = computeChart(call->data, *secondBirth, console, code);
         if (!second) {
             return code;
         }
     }
     core::Result<present::TableSource> source =
-        tableSource(arguments, *computed, call->data.series);
+        tableSource(arguments, computed, call->data.data.series);
     if (!source) {
         return usageError(source.error(), console);
     }
-    source.value().yogas = library.value().files().empty() ? nullptr : &library.value();
+    source.value().yogas = call->yogas();
     if (second) {
         const bool brideFirst = arguments.has("--bride-first");
-        source.value().groom = brideFirst ? &second->chart : &computed->chart;
-        source.value().bride = brideFirst ? &computed->chart : &second->chart;
-        source.value().matchingTables = &call->data.matching;
+        source.value().groom = brideFirst ? &second->chart : &computed.chart;
+        source.value().bride = brideFirst ? &computed.chart : &second->chart;
+        source.value().matchingTables = &call->data.data.matching;
     }
     auto blocks = namedTables(arguments, source.value());
     if (!blocks) {
         return usageError(blocks.error(), console);
     }
     Document document;
-    document.title = computed->chart.name.empty() ? L"Chart" : computed->chart.name;
-    document.head = present::reportHead(*computed);
+    document.title = computed.chart.name.empty() ? L"Chart" : computed.chart.name;
+    document.head = present::reportHead(computed);
     document.blocks = std::move(blocks.value());
     return write(formattedTables(document, form.value(), info()), arguments, console);
 }
@@ -306,28 +330,18 @@ ExitCode ReportCommand::run(const Arguments& arguments, Console& console) const
             return usageError(*error, console);
         }
     }
-    const core::Result<yoga::YogaLibrary> library = yogaLibrary(arguments);
-    if (!library) {
-        console.error(library.error().text());
-        return ExitCode::Failed;
-    }
     ExitCode code = ExitCode::Done;
-    const std::optional<CallData> call = openCall(arguments, console, code);
+    const std::optional<ReportCall> call = openReport(arguments, birth.value(), console, code);
     if (!call) {
         return code;
     }
-    const std::optional<ComputedChart> computed = computeChart(*call, birth.value(), console, code);
-    if (!computed) {
-        return code;
-    }
-    const core::Result<double> moment = momentOption(arguments, computed->chart.zone);
+    const ComputedChart& computed = call->computed;
+    const core::Result<double> moment = momentOption(arguments, computed.chart.zone);
     if (!moment) {
         return usageError(moment.error(), console);
     }
-    const bool hasYogas = !library.value().files().empty();
-    const present::ReportSource source{*computed, call->data.series,
-                                       hasYogas ? &library.value() : nullptr, moment.value(),
-                                       style.value()};
+    const present::ReportSource source{computed, call->data.data.series, call->yogas(),
+                                       moment.value(), style.value()};
     return write(formatted(present::makeReport(source, definition.value()), form.value(), info()),
                  arguments, console);
 }

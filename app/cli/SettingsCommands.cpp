@@ -4,7 +4,7 @@
 #include "app/cli/Console.h"
 #include "app/cli/SettingsJson.h"
 #include "app/cli/SharedOptions.h"
-#include "app/cli/TextTable.h"
+#include "app/present/TextTable.h"
 #include "core/FileText.h"
 #include "core/NumberText.h"
 
@@ -53,7 +53,7 @@ std::string rangeText(const core::SettingInfo& info)
 std::wstring tableText(const core::Settings& settings)
 {
     const core::Settings defaults;
-    TextTable table({{L"Setting"}, {L"Value"}, {L"Default"}, {L"Range"}, {L"Meaning"}});
+    present::TextTable table({{L"Setting"}, {L"Value"}, {L"Default"}, {L"Range"}, {L"Meaning"}});
     for (const core::SettingInfo& info : core::settingsTable()) {
         table.add({core::fromFileBytes(info.name), core::fromFileBytes(valueText(settings, info)),
                    core::fromFileBytes(plainText(defaults, info)),

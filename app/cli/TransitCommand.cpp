@@ -4,9 +4,9 @@
 #include "app/cli/Console.h"
 #include "app/cli/Progress.h"
 #include "app/cli/SharedOptions.h"
-#include "app/cli/TextValues.h"
 #include "app/cli/TransitCommandOptions.h"
 #include "app/cli/TransitCommandOutput.h"
+#include "app/present/TextValues.h"
 #include "core/FileText.h"
 #include "core/NumberText.h"
 #include "core/TextForms.h"
@@ -58,8 +58,8 @@ std::wstring headingOf(const TransitRequest& request, const std::optional<Comput
     if (request.options.mode == timing::TransitMode::Native && native) {
         text += native->chart.name.empty() ? L" to the chart" : L" to " + native->chart.name;
     }
-    return text + L", " + dateText(timing::recordOfDay(request.days.first)) + L" to " +
-           dateText(timing::recordOfDay(request.days.last)) + L", zone " + zoneText(clock);
+    return text + L", " + present::dateText(timing::recordOfDay(request.days.first)) + L" to " +
+           present::dateText(timing::recordOfDay(request.days.last)) + L", zone " + zoneText(clock);
 }
 
 // Nothing when it was stopped.

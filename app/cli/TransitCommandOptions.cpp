@@ -1,8 +1,9 @@
 #include "app/cli/TransitCommandOptions.h"
 
 #include "analysis/ExplainText.h"
-#include "app/cli/TextValues.h"
 #include "app/present/Clock.h"
+#include "app/present/TextValues.h"
+#include "app/present/TransitChoices.h"
 #include "core/FileText.h"
 #include "core/NumberText.h"
 #include "timing/SiderealSky.h"
@@ -25,9 +26,6 @@ using core::Error;
 using core::Result;
 using timing::TransitKinds;
 
-constexpr int kUsualDays = 30;
-constexpr int kMostYears = 200;
-constexpr double kMostDays = kMostYears * 365.25;
 // The years for which the positions are tested.
 constexpr int kFirstYear = -3000;
 constexpr int kLastYear = 3000;
@@ -112,11 +110,6 @@ Result<void> readMode(const Arguments& arguments, timing::TransitMode& mode)
     return {};
 }
 
-bool isBody(int point)
-{
-    return std::find(core::kBodies.begin(), core::kBodies.end(), point) != core::kBodies.end();
-}
-
 // The points of a list, each once and in the order typed.
 Result<void> readPoints(std::string_view option, const std::string& list, bool bodiesOnly,
                         std::vector<int>& points)
@@ -127,8 +120,8 @@ Result<void> readPoints(std::string_view option, const std::string& list, bool b
         if (!point) {
             return Error{typed(option, list) + ": there is no point '" + name + "'"};
         }
-        if (bodiesOnly && !isBody(*point)) {
-            return Error{std::string(option) + ": " + core::toUtf8(pointLabel(*point)) +
+        if (bodiesOnly && !present::movesByItself(*point)) {
+            return Error{std::string(option) + ": " + core::toUtf8(present::pointLabel(*point)) +
                          " is no body that moves by itself; these are Sun to Ketu and Uranus to "
                          "Pluto"};
         }
@@ -145,7 +138,7 @@ Result<void> readBodies(const Arguments& arguments, TransitRequest& request)
     if (list && *list != "all") {
         return readPoints("--bodies", *list, true, request.options.bodies);
     }
-    request.options.bodies.assign(core::kBodies.begin(), core::kBodies.end());
+    request.options.bodies = present::movingBodies();
     return {};
 }
 
@@ -158,13 +151,10 @@ Result<void> readTargets(const Arguments& arguments, TransitRequest& request)
         return readPoints("--targets", *list, !native, request.options.targets);
     }
     if (!native) {
-        request.options.targets.assign(core::kBodies.begin(), core::kBodies.end());
+        request.options.targets = present::movingBodies();
         return {};
     }
-    const int last = list ? core::kPointCount - 1 : int(core::kKetu);
-    for (int point = core::kAscendant; point <= last; ++point) {
-        request.options.targets.push_back(point);
-    }
+    request.options.targets = present::nativePoints(list ? core::kPointCount - 1 : core::kKetu);
     return {};
 }
 
@@ -191,34 +181,25 @@ Result<void> readAspects(const Arguments& arguments, int& choice)
 
 Result<void> readKinds(const Arguments& arguments, TransitKinds& kinds)
 {
-    static constexpr std::array<std::pair<std::string_view, bool TransitKinds::*>, 7> kKinds = {{
-        {"aspects", &TransitKinds::aspects},
-        {"orbs", &TransitKinds::orbs},
-        {"signs", &TransitKinds::signs},
-        {"nakshatras", &TransitKinds::nakshatras},
-        {"padas", &TransitKinds::padas},
-        {"stations", &TransitKinds::stations},
-        {"combustion", &TransitKinds::combustion},
-    }};
     const std::optional<std::string> list = arguments.value("--kinds");
     if (!list) {
         return {};
     }
-    for (const auto& [name, member] : kKinds) {
+    for (const auto& [name, member] : present::kTransitKinds) {
         kinds.*member = *list == "all";
     }
     if (*list == "all" || *list == "none") {
         return {};
     }
     for (const std::string& part : partsOf(*list)) {
-        const auto kind = std::find_if(kKinds.begin(), kKinds.end(),
-                                       [&](const auto& entry) { return entry.first == part; });
-        if (kind == kKinds.end()) {
+        const auto kind = std::find_if(present::kTransitKinds.begin(), present::kTransitKinds.end(),
+                                       [&](const auto& entry) { return entry.name == part; });
+        if (kind == present::kTransitKinds.end()) {
             return Error{typed("--kinds", *list) + ": there is no kind '" + part +
                          "'; write aspects, orbs, signs, nakshatras, padas, stations, combustion, "
                          "all or none"};
         }
-        kinds.*(kind->second) = true;
+        kinds.*(kind->member) = true;
     }
     return {};
 }
@@ -243,7 +224,10 @@ Result<TransitRequest> readTransitRequest(const Arguments& arguments)
     next([&] { return readTargets(arguments, request); });
     next([&] { return readAspects(arguments, options.aspectChoice); });
     next([&] { return readKinds(arguments, options.kinds); });
-    next([&] { return readWhole(arguments, "--orb", 1, timing::kWidestOrb, options.orbDegrees); });
+    next([&] {
+        return readWhole(arguments, "--orb", present::kNarrowestOrb, timing::kWidestOrb,
+                         options.orbDegrees);
+    });
     next([&] {
         return readWhole(arguments, "--offset", -kWidestOffset, kWidestOffset,
                          options.offsetDegrees);
@@ -278,12 +262,12 @@ Result<void> settleTransitDays(TransitRequest& request, double clock)
         request.days.first =
             timing::civilDayOf(kUnixEpoch + moment.value() / kSecondsPerDay, clock);
     }
-    request.days.last = request.last.value_or(request.days.first + kUsualDays - 1);
+    request.days.last = request.last.value_or(request.days.first + present::kUsualTransitDays - 1);
     if (request.days.last < request.days.first) {
         return Error{"--to lies before " +
                      std::string(request.first ? "--from" : "today, where --from begins")};
     }
-    if (request.days.last - request.days.first > kMostDays) {
+    if (request.days.last - request.days.first > present::kMostTransitDays) {
         return Error{"--to lies more than 200 years after --from"};
     }
     return {};
@@ -297,7 +281,8 @@ Result<void> settleTransitTargets(TransitRequest& request, const core::Chart& na
     };
     const auto first = std::find_if(targets.begin(), targets.end(), missing);
     if (request.targetsTyped && first != targets.end()) {
-        return Error{"--targets: the chart has no position of " + core::toUtf8(pointLabel(*first))};
+        return Error{"--targets: the chart has no position of " +
+                     core::toUtf8(present::pointLabel(*first))};
     }
     targets.erase(std::remove_if(first, targets.end(), missing), targets.end());
     return {};

@@ -3,7 +3,6 @@
 #include "app/cli/CommandSettings.h"
 #include "app/cli/JsonValues.h"
 #include "app/cli/SharedOptions.h"
-#include "app/cli/TextValues.h"
 #include "app/cli/YogaOutput.h"
 #include "app/present/Clock.h"
 #include "core/DateTime.h"

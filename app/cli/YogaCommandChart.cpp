@@ -2,9 +2,9 @@
 
 #include "app/cli/BirthData.h"
 #include "app/cli/SharedOptions.h"
-#include "app/cli/TextValues.h"
 #include "app/cli/YogaCommand.h"
 #include "app/cli/YogaOutput.h"
+#include "app/present/TextValues.h"
 #include "core/FileText.h"
 
 #include <nlohmann/json.hpp>
@@ -110,7 +110,7 @@ std::wstring foundText(const yoga::YogaLibrary& library, const FoundYoga& found)
     std::wstring text = core::fromFileBytes(yoga.title) +
                         (chapter.empty() ? std::wstring() : L" (" + chapter + L")") + L"\n";
     if (!yoga.interpretation.empty()) {
-        text += wrapped(core::fromFileBytes(yoga.interpretation), L"  ");
+        text += present::wrapped(core::fromFileBytes(yoga.interpretation), L"  ");
     }
     return text + reasonsText(*library.rule(found.place), found.outcome, false) + L"\n";
 }

@@ -55,7 +55,10 @@ std::optional<data::LineList> refreshedResearch(DatabaseCall& call, const astro:
     progress.clear();
     code = ExitCode::Failed;
     if (!lines) {
-        call.console.error("interrupted; no file was changed");
+        // Who answers Cancel to a notice knows it.
+        if (Progress::cancelled()) {
+            call.console.error("interrupted; no file was changed");
+        }
         return std::nullopt;
     }
     if (call.database.modified() && saveCall(call) != ExitCode::Done) {

@@ -1,9 +1,10 @@
 #include "app/cli/ComputedChart.h"
 #include "app/cli/Console.h"
 #include "app/cli/SharedOptions.h"
-#include "app/cli/TextTable.h"
 #include "app/cli/YogaCommandResearch.h"
 #include "app/cli/YogaCommandSearch.h"
+#include "app/present/ResearchTables.h"
+#include "app/present/TableWriters.h"
 #include "core/FileText.h"
 #include "core/NumberText.h"
 #include "yoga/ResearchTable.h"
@@ -12,8 +13,10 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace kestrav::cli
@@ -191,63 +194,44 @@ void addBars(Json& object, const yoga::ResearchTable& table, const TableRequest&
     }
 }
 
-using Align = TextTable::Align;
-
-Align alignOf(std::size_t index)
-{
-    const yoga::ColumnType type = column(index).type;
-    return type == yoga::ColumnType::Number || type == yoga::ColumnType::Angle ||
-                   type == yoga::ColumnType::Clock || type == yoga::ColumnType::House
-               ? Align::Right
-               : Align::Left;
-}
-
+// The rows in the order that was asked for; the title is for places that have room for one.
 std::wstring rowsText(const yoga::ResearchTable& table, const TableRequest& request)
 {
-    std::vector<TextTable::Column> headings = {{L"Line", Align::Right}};
-    for (const std::size_t index : request.columns) {
-        headings.push_back({yoga::columnHeading(column(index)), alignOf(index)});
-    }
-    TextTable text(std::move(headings));
+    present::Table all = present::researchRows(table, request.columns);
+    present::Table shown = {all.id, L"", all.columns};
     for (const std::size_t row : rowsOf(table, request)) {
-        std::vector<std::wstring> cells = {std::to_wstring(table.lines()[row] + 1)};
-        for (const std::size_t index : request.columns) {
-            cells.push_back(table.text(row, index));
-        }
-        text.add(std::move(cells));
+        shown.rows.push_back(std::move(all.rows[row]));
     }
-    return text.text();
+    return present::tableText(shown);
 }
 
-std::wstring groupsText(const yoga::ResearchTable& table, const TableRequest& request)
+// Labels and counts, and behind them averages under the headings of their columns; the command
+// tells no shares.
+std::wstring countsText(present::Table counts, const std::vector<std::size_t>& averages = {})
 {
-    std::vector<TextTable::Column> headings = {
-        {yoga::columnHeading(column(*request.count)), alignOf(*request.count)},
-        {L"Charts", Align::Right}};
-    for (const std::size_t index : request.averages) {
-        headings.push_back({yoga::columnHeading(column(index)), Align::Right});
+    constexpr std::ptrdiff_t kShare = 2;
+    counts.title.clear();
+    for (std::size_t i = 0; i < averages.size(); ++i) {
+        counts.columns[kShare + 1 + i].heading = yoga::columnHeading(column(averages[i]));
     }
-    TextTable text(std::move(headings));
-    for (const yoga::TableGroup& group : table.groups(*request.count, request.averages)) {
-        std::vector<std::wstring> cells = {group.label.empty() ? L"--" : group.label,
-                                           std::to_wstring(group.count)};
-        for (std::size_t i = 0; i < request.averages.size(); ++i) {
-            const std::optional<double>& average = group.averages[i];
-            cells.push_back(average ? yoga::columnValueText(*average, column(request.averages[i]))
-                                    : L"--");
-        }
-        text.add(std::move(cells));
+    counts.columns.erase(counts.columns.begin() + kShare);
+    for (present::Row& row : counts.rows) {
+        row.erase(row.begin() + kShare);
     }
-    return text.text();
+    return present::tableText(counts);
 }
 
-std::wstring barsText(const yoga::ResearchTable& table, const TableRequest& request)
+std::wstring tableText(const yoga::ResearchTable& table, const TableRequest& request)
 {
-    TextTable text({{yoga::columnHeading(column(*request.graph))}, {L"Charts", Align::Right}});
-    for (const yoga::GraphBar& bar : table.graph(*request.graph, std::size_t(request.bars))) {
-        text.add({bar.label, std::to_wstring(bar.count)});
+    if (request.graph) {
+        return countsText(present::barTable(
+            present::researchGraph(table, *request.graph, std::size_t(request.bars))));
     }
-    return text.text();
+    if (request.count) {
+        return countsText(present::researchGroups(table, *request.count, request.averages),
+                          request.averages);
+    }
+    return rowsText(table, request);
 }
 
 } // namespace
@@ -276,9 +260,7 @@ ExitCode ResearchTableCommand::work(DatabaseCall& call) const
         request.tag ? yoga::ResearchTable(*research, call.database, *request.tag)
                     : yoga::ResearchTable(*research);
     if (!call.json()) {
-        call.console.print(request.graph   ? barsText(table, request)
-                           : request.count ? groupsText(table, request)
-                                           : rowsText(table, request));
+        call.console.print(tableText(table, request));
         return ExitCode::Done;
     }
     Json object = call.object();

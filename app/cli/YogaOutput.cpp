@@ -1,7 +1,7 @@
 #include "app/cli/YogaOutput.h"
 
-#include "app/cli/TextTable.h"
-#include "app/cli/TextValues.h"
+#include "app/present/TextTable.h"
+#include "app/present/TextValues.h"
 #include "core/FileText.h"
 
 #include <nlohmann/json.hpp>
@@ -153,12 +153,12 @@ std::wstring reasonsText(const yoga::YogaRule& rule, const yoga::RuleOutcome& ou
     for (std::size_t i = 0; i < outcome.conditions.size(); ++i) {
         const yoga::ConditionOutcome& one = outcome.conditions[i];
         if (one.tested) {
-            lines += wrapped(one.reason, one.truth ? L"  + " : L"  - ");
+            lines += present::wrapped(one.reason, one.truth ? L"  + " : L"  - ");
         } else if (all) {
             const yoga::Condition& condition = rule.conditions()[i];
             const std::wstring words = yoga::conditionWords(condition);
-            lines +=
-                wrapped((words.empty() ? wide(condition.text) : words) + L" (not tested)", L"  ? ");
+            lines += present::wrapped(
+                (words.empty() ? wide(condition.text) : words) + L" (not tested)", L"  ? ");
         }
     }
     return lines;
@@ -184,12 +184,12 @@ Json kindJson(const yoga::Kind& kind)
 
 std::wstring kindText(const yoga::Kind& kind)
 {
-    LabelledLines lines;
+    present::LabelledLines lines;
     lines.add(L"Kind", wide(kind.keyword) + L", number " + std::to_wstring(kind.number));
     lines.add(L"Form", wide(yoga::kindForm(kind)));
     lines.add(L"Example", wide(kind.example));
     lines.add(L"", wide(kind.exampleMeaning));
-    return lines.text() + wrapped(wide(kind.meaning), L"");
+    return lines.text() + present::wrapped(wide(kind.meaning), L"");
 }
 
 std::wstring kindsText()

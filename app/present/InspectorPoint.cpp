@@ -9,6 +9,7 @@
 #include "analysis/VargaNames.h"
 #include "app/present/StrengthTables.h"
 #include "app/present/TextValues.h"
+#include "app/present/TransitChoices.h"
 #include "app/present/VargaTables.h"
 #include "core/PointNames.h"
 #include "core/TextForms.h"
@@ -32,11 +33,6 @@ bool isPlanet(int point)
 bool isGraha(int point)
 {
     return point >= core::kSun && point <= core::kKetu;
-}
-
-bool isBody(int point)
-{
-    return std::find(core::kBodies.begin(), core::kBodies.end(), point) != core::kBodies.end();
 }
 
 Table vargaSection(const ComputedChart& computed, int point)
@@ -273,7 +269,7 @@ Table positionSection(const ComputedChart& computed, int point)
     table.add({L"Lord of the sign", pointCell(analysis::signLord(sign))});
     table.add({L"Nakshatra", quarterCell(star)});
     table.add({L"Lord of the nakshatra", pointCell(analysis::nakshatraLord(star))});
-    if (isBody(point) && chart.hasMoment) {
+    if (movesByItself(point) && chart.hasMoment) {
         constexpr double kDegrees = 180.0 / std::numbers::pi;
         table.add({L"Degrees a day", numberCell(at(chart.speed, point), 4)});
         table.add({L"Latitude", numberCell(at(chart.latitude, point) * kDegrees, 4)});

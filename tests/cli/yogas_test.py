@@ -188,7 +188,15 @@ class Yogas(ProgramTest):
         self.assertEqual([bar["low"] for bar in hours["bars"]], [0, 6, 12, 18])
         self.assertEqual(sum(bar["count"] for bar in hours["bars"]), rows["charts"])
         text = self.text("yogas", "table", *database, "--count", "sex")
-        self.assertRegex(text, r"Sex +Charts\n")
+        self.assertRegex(text, r"\ASex +Charts\n(\S+ +\d+\n)+\Z")
+        text = self.text("yogas", "table", *database, "--count", "sex", "--average", "sun.longitude")
+        self.assertRegex(text, r"\ASex +Charts  Sun longitude\n(\S+ +\d+ +\S+\n)+\Z")
+        lines = self.text("yogas", "table", *database, "--column", "name", "--by",
+                          "name").splitlines()
+        self.assertEqual(lines[0], "Line  Name")
+        names = [line[6:].casefold() for line in lines[1:]]
+        self.assertEqual(len(names), rows["charts"])
+        self.assertEqual(names[:5], sorted(names)[:5])
         self.assertFails(2, "'sun' is no column", "yogas", "table", *database, "--column", "sun")
         self.assertFails(2, "give one of", "yogas", "table", *database)
 

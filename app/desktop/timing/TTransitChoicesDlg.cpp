@@ -184,10 +184,10 @@ QWidget* TTransitChoicesDlg::makeOthers()
     aspects_->addItems(
         {tr("Every house"), tr("Graha aspects"), tr("Sign aspects"), tr("Graha and sign aspects")});
     orb_->setObjectName(QStringLiteral("OrbUpDown"));
-    orb_->setRange(1, timing::kWidestOrb);
+    orb_->setRange(present::kNarrowestOrb, timing::kWidestOrb);
     orb_->setSuffix(QStringLiteral("\u00B0"));
     days_->setObjectName(QStringLiteral("DaysUpDown"));
-    days_->setRange(1, kMostTransitDays);
+    days_->setRange(1, present::kMostTransitDays);
     auto* const form = new QFormLayout(group);
     form->addRow(tr("&Which aspects:"), aspects_);
     form->addRow(tr("Or&b:"), orb_);
@@ -237,7 +237,7 @@ void TTransitChoicesDlg::TargetsComboBoxChange()
     const bool moving = mode_->currentIndex() == 1;
     for (int row = 0; row < targets_->count(); ++row) {
         QListWidgetItem& item = *targets_->item(row);
-        item.setHidden(moving && !movesByItself(item.data(Qt::UserRole).toInt()));
+        item.setHidden(moving && !present::movesByItself(item.data(Qt::UserRole).toInt()));
     }
     showProblem();
 }

@@ -5,7 +5,7 @@
 #include "core/Points.h"
 
 #include <algorithm>
-#include <array>
+#include <string_view>
 #include <utility>
 
 namespace kestrav::desktop
@@ -14,24 +14,12 @@ namespace kestrav::desktop
 namespace
 {
 
-using timing::TransitKinds;
-
 constexpr char kGroup[] = "transits/";
 constexpr int kSaturnDays = 10958; ///< Saturn goes round once
 
-constexpr std::array<std::pair<const char*, bool TransitKinds::*>, 7> kKinds = {{
-    {"aspects", &TransitKinds::aspects},
-    {"orbs", &TransitKinds::orbs},
-    {"signs", &TransitKinds::signs},
-    {"nakshatras", &TransitKinds::nakshatras},
-    {"padas", &TransitKinds::padas},
-    {"stations", &TransitKinds::stations},
-    {"combustion", &TransitKinds::combustion},
-}};
-
-QString keyOf(const char* name)
+QString keyOf(std::string_view name)
 {
-    return QLatin1String(kGroup) + QLatin1String(name);
+    return QLatin1String(kGroup) + QLatin1String(name.data(), qsizetype(name.size()));
 }
 
 QString pointList(const std::vector<int>& points)
@@ -59,19 +47,12 @@ std::vector<int> pointsOf(const QString& list)
 
 } // namespace
 
-bool movesByItself(int point)
-{
-    return std::find(core::kBodies.begin(), core::kBodies.end(), point) != core::kBodies.end();
-}
-
 TransitChoices TransitChoices::usual()
 {
     TransitChoices choices;
-    choices.options.bodies.assign(core::kBodies.begin(), core::kBodies.end());
+    choices.options.bodies = present::movingBodies();
     std::erase(choices.options.bodies, int(core::kMoon));
-    for (int point = core::kAscendant; point <= core::kKetu; ++point) {
-        choices.options.targets.push_back(point);
-    }
+    choices.options.targets = present::nativePoints(core::kKetu);
     return choices;
 }
 
@@ -79,27 +60,28 @@ TransitChoices TransitChoices::kept()
 {
     TransitChoices choices = usual();
     const QSettings& state = stateOfWindow();
-    const auto number = [&state](const char* name, int standard, int lowest, int highest) {
+    const auto number = [&state](std::string_view name, int standard, int lowest, int highest) {
         return core::ClampRange(lowest, highest, state.value(keyOf(name), standard).toInt());
     };
-    const auto flag = [&state](const char* name, bool standard) {
+    const auto flag = [&state](std::string_view name, bool standard) {
         return state.value(keyOf(name), standard).toBool();
     };
     timing::TransitOptions& options = choices.options;
     if (state.contains(keyOf("bodies"))) {
         options.bodies = pointsOf(state.value(keyOf("bodies")).toString());
-        std::erase_if(options.bodies, [](int point) { return !movesByItself(point); });
+        std::erase_if(options.bodies, [](int point) { return !present::movesByItself(point); });
         options.targets = pointsOf(state.value(keyOf("targets")).toString());
     }
     options.mode = flag("transitToTransit", false) ? timing::TransitMode::TransitToTransit
                                                    : timing::TransitMode::Native;
-    for (const auto& [name, member] : kKinds) {
+    for (const auto& [name, member] : present::kTransitKinds) {
         options.kinds.*member = flag(name, options.kinds.*member);
     }
     options.aspectChoice =
         number("aspectChoice", options.aspectChoice, 0, timing::kGrahaAndSignAspects);
-    options.orbDegrees = number("orb", options.orbDegrees, 1, timing::kWidestOrb);
-    choices.days = number("days", choices.days, 1, kMostTransitDays);
+    options.orbDegrees =
+        number("orb", options.orbDegrees, present::kNarrowestOrb, timing::kWidestOrb);
+    choices.days = number("days", choices.days, 1, present::kMostTransitDays);
     choices.kakshyas = flag("kakshyas", choices.kakshyas);
     choices.sadeSati = flag("sadeSati", choices.sadeSati);
     return choices;
@@ -112,7 +94,7 @@ void TransitChoices::keep() const
     state.setValue(keyOf("targets"), pointList(options.targets));
     state.setValue(keyOf("transitToTransit"),
                    options.mode == timing::TransitMode::TransitToTransit);
-    for (const auto& [name, member] : kKinds) {
+    for (const auto& [name, member] : present::kTransitKinds) {
         state.setValue(keyOf(name), options.kinds.*member);
     }
     state.setValue(keyOf("aspectChoice"), options.aspectChoice);
@@ -132,7 +114,7 @@ TransitLists listTransits(const TransitRequest& request, const WorkHandle& handl
         options.mode = timing::TransitMode::TransitToTransit;
     }
     if (options.mode == timing::TransitMode::TransitToTransit) {
-        std::erase_if(options.targets, [](int point) { return !movesByItself(point); });
+        std::erase_if(options.targets, [](int point) { return !present::movesByItself(point); });
     }
     lists.events = timing::listTransits(
         sky, native, options, {request.firstDay, request.firstDay + request.choices.days - 1},

@@ -3,6 +3,7 @@
 
 #include "app/desktop/shell/BackgroundWork.h"
 #include "app/desktop/shell/Workspace.h"
+#include "app/present/TransitChoices.h"
 #include "timing/SadeSati.h"
 #include "timing/TransitKakshya.h"
 #include "timing/TransitListing.h"
@@ -16,7 +17,7 @@ namespace kestrav::desktop
 struct TransitChoices
 {
     timing::TransitOptions options;
-    int days = 30;
+    int days = present::kUsualTransitDays;
     bool kakshyas = true;
     bool sadeSati = true;
 
@@ -25,11 +26,6 @@ struct TransitChoices
     [[nodiscard]] static TransitChoices kept();
     void keep() const;
 };
-
-/// Whether a point is one of the bodies Sun to Ketu and Uranus to Pluto.
-[[nodiscard]] bool movesByItself(int point);
-
-inline constexpr int kMostTransitDays = 73050; ///< two hundred years
 
 /// One listing, for a worker.
 struct TransitRequest
