@@ -19,8 +19,8 @@ class StartupTest(unittest.TestCase):
             (self.folder / name).mkdir()
         self.work = self.folder / "work"
 
-    def run_program(self, *words, program=BIN / "kestrav"):
-        environment = {"PATH": os.environ["PATH"], "QT_QPA_PLATFORM": "offscreen",
+    def run_program(self, *words, program=BIN / "kestrav", platform="offscreen"):
+        environment = {"PATH": os.environ["PATH"], "QT_QPA_PLATFORM": platform,
                        "KESTRAV_CLOCK": "1768478400"}
         for name in ["HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"]:
             environment[name] = str(self.folder / "home")
@@ -56,6 +56,16 @@ class StartupTest(unittest.TestCase):
         done, made = self.picture("missing.ksc")
         self.assertIn("This file is not found", done.stderr)
         self.assertEqual(done.returncode, 0)
+
+    def test_pictures_need_no_display_and_a_window_says_that_it_does(self):
+        done, made = self.picture(platform="")
+        self.assertEqual((done.returncode, made), (0, True), done.stderr)
+        listed = self.run_program("--screenshot", "list", platform="")
+        self.assertEqual(listed.returncode, 0, listed.stderr)
+        self.assertIn("Panchanga", listed.stdout.splitlines())
+        done = self.run_program(platform="")
+        self.assertEqual(done.returncode, 1)
+        self.assertIn("there is no display to show a window on", done.stderr)
 
     def test_wrong_words_are_usage_errors(self):
         done = self.run_program("--bogus")

@@ -1,5 +1,6 @@
 #include "app/desktop/start/Startup.h"
 
+#include "app/desktop/database/DatabaseActions.h"
 #include "app/desktop/database/OpenFirst.h"
 #include "app/desktop/help/HelpActions.h"
 #include "app/desktop/options/OptionsActions.h"
@@ -108,12 +109,10 @@ QStringList absoluteFiles(const ProgramOptions& options)
 // A later start of the program: its files are opened here, and the window comes to the front.
 void answerLaterStart(TKSVform1& window, const QStringList& files)
 {
-    if (!files.isEmpty()) {
-        ProgramOptions options;
+    if (auto* const actions = window.findChild<DatabaseActions*>()) {
         for (const QString& file : files) {
-            options.files.push_back(toPath(file).string());
+            actions->openInTurn(toPath(file));
         }
-        openFirst(window, options);
     }
     window.show();
     window.raise();
@@ -158,10 +157,33 @@ int picture(TKSVform1& window, const ProgramOptions& options)
     return taken ? 0 : kFailed;
 }
 
+// Pictures are made without a display where there is none; a window needs one. The toolkit would
+// end the program with an abort.
+bool hasDisplay(const ProgramOptions& options)
+{
+    const auto given = [](const char* name) {
+        return !qEnvironmentVariableIsEmpty(name);
+    };
+    if (given("DISPLAY") || given("WAYLAND_DISPLAY") || given("QT_QPA_PLATFORM")) {
+        return true;
+    }
+    if (options.screenshot) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        return true;
+    }
+    return false;
+}
+
 } // namespace
 
 int runWindow(int& count, char** words, const ProgramOptions& options)
 {
+    if (!hasDisplay(options)) {
+        std::fputs("kestrav: there is no display to show a window on\n"
+                   "kestrav-cli computes, prints and draws charts without one.\n",
+                   stderr);
+        return kFailed;
+    }
     if (options.scale) {
         qputenv("QT_SCALE_FACTOR", QByteArray::number(*options.scale));
     }
