@@ -134,8 +134,7 @@ TEST_F(EntryTest, AChartIsTypedFoundOnTheMapSavedAndReadAgain)
         toQt(core::FormatSignPosition(shown.longitude[core::kAscendant])).simplified()))
         << ascendant.toStdString();
 
-    TMessages messages;
-    ASSERT_EQ(workspace().database().save(messages), data::Outcome::Done);
+    command("SaveAction");
     data::ChartDatabase file;
     ASSERT_TRUE(file.load(sample_).ok());
     const auto line = file.find(L"Test Person");

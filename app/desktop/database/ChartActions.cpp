@@ -196,10 +196,18 @@ void ChartActions::changeGroup(wchar_t group, GroupChange how)
         return;
     }
     SettledMessages settled(files_.messages(), window_.workspace().settings());
+    const auto file = data::agreesToChangeGroup(group, settled)
+                          ? data::agreeToSave(database_.charts(), database_.path(), settled)
+                          : std::nullopt;
+    if (!file) {
+        return;
+    }
     database_.change(group == L'A' ? tr("A Group Tags") : tr("B Group Tags"),
                      [&](data::ChartDatabase& charts) {
-                         return data::changeGroup(charts, group, lines, settled);
+                         data::setGroup(charts, group, lines);
+                         return data::Outcome::Done;
                      });
+    files_.write(*file, tr("Saved %1").arg(toQt(data::fileText(*file))));
 }
 
 void ChartActions::followShownChart(const std::vector<LineEdit>& edits)

@@ -49,19 +49,22 @@ struct Reading
     NotedMessages notes;
 };
 
-Reading readDatabase(const std::filesystem::path& path, data::DateOrder order)
+// Reads a database, and saves it under another name where there is one.
+Reading readDatabase(const std::filesystem::path& path, data::DateOrder order,
+                     const std::filesystem::path& saveAs)
 {
     Reading reading{{data::ChartDatabase(order), {}}, Outcome::Failed, {}};
     reading.outcome = data::openDatabase(reading.content.charts, path, reading.notes);
+    if (reading.outcome == Outcome::Done && !saveAs.empty()) {
+        if (const auto saved = reading.content.charts.save(saveAs); !saved) {
+            data::tellSavingError(saved.error(), reading.notes);
+            reading.outcome = Outcome::Failed;
+        }
+    }
     if (reading.outcome == Outcome::Done) {
         reading.content.list = data::listCharts(reading.content.charts);
     }
     return reading;
-}
-
-std::wstring filters()
-{
-    return std::wstring(data::kDatabaseFilter) + L"|" + data::kBackupFilter;
 }
 
 } // namespace
@@ -115,6 +118,11 @@ OpenDatabase& DatabaseActions::database()
     return window_.workspace().database();
 }
 
+std::wstring DatabaseActions::filters()
+{
+    return std::wstring(data::kDatabaseFilter) + L"|" + data::kBackupFilter;
+}
+
 void DatabaseActions::addFileCommands()
 {
     window_.addCommand(MenuName::File,
@@ -134,34 +142,6 @@ void DatabaseActions::addFileCommands()
         {"ReloadAction", tr("Re&load"), {}, tr("Reads the database from its file again")},
         [this] { reload(); });
     window_.menu(MenuName::File)->addSeparator();
-}
-
-void DatabaseActions::addSaveCommands()
-{
-    window_.addCommand(MenuName::File,
-                       {"SaveAction", tr("&Save Database"), QKeySequence(tr("Ctrl+S")),
-                        tr("Writes the database to its file"), "document-save"},
-                       [this] { save(); });
-    window_.addCommand(MenuName::File,
-                       {"SaveAsAction", tr("Save Database &As..."),
-                        QKeySequence(tr("Ctrl+Shift+S")), tr("Writes the database to another file"),
-                        "document-save-as"},
-                       [this] { saveAs(); });
-    window_.addCommand(MenuName::File,
-                       {"SaveInOtherOrderAction",
-                        tr("Save in Other &Date Order"),
-                        {},
-                        tr("Writes the dates of all charts with day and month exchanged")},
-                       [this] { SaveInOtherOrderActionClick(); });
-    window_.addCommand(MenuName::File,
-                       {"BackupAction", tr("Bac&kup..."), {}, tr("Saves a copy of the database")},
-                       [this] { BackupActionClick(); });
-    window_.addCommand(MenuName::File,
-                       {"RestoreAction",
-                        tr("R&estore..."),
-                        {},
-                        tr("Reads a database from another device and saves it on this computer")},
-                       [this] { RestoreActionClick(); });
 }
 
 void DatabaseActions::fillRecent(QMenu& menu)
@@ -234,16 +214,17 @@ void DatabaseActions::open(const std::filesystem::path& path, std::function<void
     }
 }
 
-void DatabaseActions::read(const std::filesystem::path& path, std::function<void(bool opened)> then)
+void DatabaseActions::read(const std::filesystem::path& path, std::function<void(bool opened)> then,
+                           const std::filesystem::path& saveAs)
 {
-    const auto finish = [this, path, then = std::move(then)](Reading reading) {
+    const auto finish = [this, then = std::move(then)](Reading reading) {
         repeat(reading.notes.said(), messages_);
         const bool opened = reading.outcome == Outcome::Done;
         if (opened) {
             window_.workspace().setChartLine(std::nullopt);
             database().adopt(std::move(reading.content));
             data::tellShortLine(database().list(), database().charts(), messages_);
-            rememberFile(path);
+            rememberFile(database().path());
             pane_->showRecentFiles();
         }
         if (then) {
@@ -254,12 +235,13 @@ void DatabaseActions::read(const std::filesystem::path& path, std::function<void
     };
     const data::DateOrder order = database().charts().order();
     if (data::stampOf(path).size <= kSmallFile) {
-        finish(readDatabase(path, order));
+        finish(readDatabase(path, order, saveAs));
         return;
     }
     workWithBox(
         &window_, tr("Reading %1").arg(toQt(data::fileText(path))), {},
-        [path, order](const WorkHandle&) { return readDatabase(path, order); }, finish);
+        [path, order, saveAs](const WorkHandle&) { return readDatabase(path, order, saveAs); },
+        finish);
 }
 
 void DatabaseActions::showFirst()
@@ -288,74 +270,6 @@ void DatabaseActions::reload()
     });
 }
 
-bool DatabaseActions::save()
-{
-    emit database().editsDue();
-    if (!database().writable()) {
-        return saveAs();
-    }
-    const bool saved = database().save(messages_) == Outcome::Done;
-    if (saved) {
-        window_.workspace().tell(tr("Saved %1").arg(toQt(data::fileText(database().path()))));
-    }
-    return saved;
-}
-
-bool DatabaseActions::saveAs()
-{
-    emit database().editsDue();
-    const std::filesystem::path& now = database().path();
-    const bool reachable = database().writable();
-    const QString suggestion = now.empty() ? chartsFolder() + QStringLiteral("/My Charts.ksc")
-                               : reachable
-                                   ? toQt(now)
-                                   : chartsFolder() + QLatin1Char('/') + toQt(now.filename());
-    const auto file = TMessages::fileToSave(&window_, toQt(data::saveAsPrompt(now)),
-                                            data::kDatabaseFilter, suggestion);
-    if (!file || database().saveAs(toPath(*file), messages_) != Outcome::Done) {
-        return false;
-    }
-    rememberFile(database().path());
-    pane_->showRecentFiles();
-    pane_->readResearch();
-    window_.workspace().tell(tr("Saved %1").arg(*file));
-    return true;
-}
-
-void DatabaseActions::SaveInOtherOrderActionClick()
-{
-    if (!database().writable() && !saveAs()) {
-        return;
-    }
-    const Outcome outcome =
-        database().change(tr("Other Date Order"), [this](data::ChartDatabase& charts) {
-            return data::saveInOtherOrder(charts, messages_);
-        });
-    if (outcome == Outcome::Done) {
-        // The order in force is that of the whole program.
-        core::Settings settings = window_.workspace().settings();
-        settings.monthFirst = database().charts().order() == data::DateOrder::MonthFirst;
-        window_.workspace().changeSettings(settings);
-        window_.workspace().tell(settings.monthFirst
-                                     ? tr("Saved with dates written month before day")
-                                     : tr("Saved with dates written day before month"));
-    }
-}
-
-void DatabaseActions::BackupActionClick()
-{
-    emit database().editsDue();
-    data::announceBackup(messages_);
-    const auto file = TMessages::fileToSave(
-        &window_, tr("Backup"), filters(),
-        QDir::homePath() + QLatin1Char('/') +
-            (database().path().empty() ? tr("Charts.ksc") : toQt(database().path().filename())));
-    if (file &&
-        data::backUpDatabase(database().charts(), toPath(*file), messages_) == Outcome::Done) {
-        window_.workspace().tell(tr("A copy was saved as %1").arg(*file));
-    }
-}
-
 void DatabaseActions::RestoreActionClick()
 {
     if (!mayDropChanges()) {
@@ -370,41 +284,8 @@ void DatabaseActions::RestoreActionClick()
         TMessages::fileToSave(&window_, tr("Restore As"), data::kDatabaseFilter,
                               chartsFolder() + QLatin1Char('/') +
                                   QFileInfo(*from).completeBaseName() + QStringLiteral(".ksc"));
-    if (!to) {
-        return;
-    }
-    OpenDatabase::Content content{data::ChartDatabase(database().charts().order()), {}};
-    if (data::restoreDatabase(content.charts, toPath(*from), toPath(*to), messages_) !=
-        Outcome::Done) {
-        return;
-    }
-    content.list = data::listCharts(content.charts);
-    window_.workspace().setChartLine(std::nullopt);
-    database().adopt(std::move(content));
-    data::tellShortLine(database().list(), database().charts(), messages_);
-    rememberFile(database().path());
-    pane_->showRecentFiles();
-    showFirst();
-}
-
-bool DatabaseActions::mayDropChanges()
-{
-    emit database().editsDue();
-    if (!database().modified()) {
-        return true;
-    }
-    const std::wstring name = database().path().empty() ? tr("The new database").toStdWString()
-                                                        : data::fileText(database().path());
-    switch (messages_.show(
-        data::kWarningCaption,
-        tr("%1 has changes that are not saved. Save them?").arg(toQt(name)).toStdWString(),
-        Buttons::YesNoCancel)) {
-    case Answer::Yes:
-        return save();
-    case Answer::No:
-        return true;
-    default:
-        return false;
+    if (to && data::agreesToReplace(toPath(*to), messages_)) {
+        read(toPath(*from), {}, toPath(*to));
     }
 }
 
@@ -416,6 +297,7 @@ void DatabaseActions::leaveWithoutQuestions()
 bool DatabaseActions::mayLeave()
 {
     if (quiet_) {
+        database().waitForSave();
         return true;
     }
     return (!window_.workspace().settings().confirmLeave ||

@@ -4,9 +4,11 @@
 #include "app/desktop/shell/TMessages.h"
 
 #include <QObject>
+#include <QString>
 
 #include <filesystem>
 #include <functional>
+#include <string>
 
 class QMenu;
 
@@ -30,9 +32,15 @@ public:
     /// learns whether a database was opened; large files are read on another thread.
     void open(const std::filesystem::path& path, std::function<void(bool opened)> then = {});
 
-    /// Saves; asks for another name where the file cannot be written. False when nothing was saved.
+    /// Saves on another thread; asks for another name where the file cannot be written. False when
+    /// the user cancels. How it ended is told later.
+    bool beginSave();
+    bool beginSaveAs();
+    /// The same, and waits for the end. False when nothing was saved.
     bool save();
     bool saveAs();
+    /// Writes to a file which may be replaced, on another thread, and tells the news at the end.
+    void write(const std::filesystem::path& file, const QString& news);
     /// Asks what becomes of unsaved changes before they are lost. False when the user cancels.
     [[nodiscard]] bool mayDropChanges();
     /// No questions at the end, for runs without a user.
@@ -57,7 +65,11 @@ private:
     void SaveInOtherOrderActionClick();
     void BackupActionClick();
     void RestoreActionClick();
-    void read(const std::filesystem::path& path, std::function<void(bool opened)> then);
+    /// `saveAs` is a name under which the file is saved first and then opened.
+    void read(const std::filesystem::path& path, std::function<void(bool opened)> then,
+              const std::filesystem::path& saveAs = {});
+    bool finishSaving();
+    static std::wstring filters();
     void showFirst();
     [[nodiscard]] bool mayLeave();
     [[nodiscard]] OpenDatabase& database();
@@ -66,6 +78,7 @@ private:
     TMessages messages_;
     ChartListPane* pane_;
     bool quiet_ = false;
+    bool saved_ = false;
 };
 
 } // namespace kestrav::desktop

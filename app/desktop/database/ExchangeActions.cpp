@@ -1,5 +1,6 @@
 #include "app/desktop/database/ExchangeActions.h"
 
+#include "app/desktop/database/ChangeWithBox.h"
 #include "app/desktop/database/DatabaseActions.h"
 #include "app/desktop/database/ExchangeTables.h"
 #include "app/desktop/database/OpenDatabase.h"
@@ -31,6 +32,7 @@ struct ExchangeActions::Merging
     data::ChartDatabase ours;
     data::ChartDatabase theirs;
     std::filesystem::path path;
+    int revision = 0;
     NotedMessages notes;
     bool opened = false;
     data::MergePreview preview;
@@ -134,6 +136,7 @@ void ExchangeActions::MergeActionClick()
     // Shared, because the work may outlive the window.
     auto merging = std::make_shared<Merging>();
     merging->ours = database().charts();
+    merging->revision = database().revision();
     merging->theirs = data::ChartDatabase(merging->ours.order());
     merging->path = toPath(*file);
     workWithBox(
@@ -161,14 +164,18 @@ void ExchangeActions::preview(const std::shared_ptr<Merging>& merging)
                                               database().path(), &window_);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this, [this, dialog, merging] {
-        data::MergeResult result;
-        database().change(tr("Merge %1").arg(toQt(data::fileText(merging->path))),
-                          [&](data::ChartDatabase& ours) {
-                              result = data::merge(ours, merging->preview, dialog->changed());
+        auto result = std::make_shared<data::MergeResult>();
+        const QString name = toQt(data::fileText(merging->path));
+        LongChange change{tr("Merging %1").arg(name), tr("Merge %1").arg(name), merging->revision,
+                          [merging, result, changed = dialog->changed()](data::ChartDatabase& ours,
+                                                                         const data::LongWork&) {
+                              *result = data::merge(ours, merging->preview, changed);
                               return Outcome::Done;
-                          });
-        window_.workspace().tell(
-            tr("%1 added, %2 replaced").arg(charts(result.added)).arg(result.replaced));
+                          }};
+        changeWithBox(window_, std::move(change), [this, result](Outcome) {
+            window_.workspace().tell(
+                tr("%1 added, %2 replaced").arg(charts(result->added)).arg(result->replaced));
+        });
     });
     dialog->open();
 }
@@ -189,14 +196,9 @@ void ExchangeActions::importFile(const std::filesystem::path& file)
         return;
     }
     const QString name = toQt(data::fileText(file));
-    workWithBox(
-        &window_, tr("Reading %1").arg(name), {},
-        [file, chosen = options()](const WorkHandle&) {
-            return std::vector<data::ImportReport>{data::readImport(file, chosen)};
-        },
-        [this, name](std::vector<data::ImportReport> reports) {
-            append(std::move(reports), name);
-        });
+    append(tr("Reading %1").arg(name), name, [file, chosen = options()] {
+        return std::vector<data::ImportReport>{data::readImport(file, chosen)};
+    });
 }
 
 void ExchangeActions::ImportFolderActionClick()
@@ -212,28 +214,28 @@ void ExchangeActions::ImportFolderActionClick()
         return;
     }
     const QString name = toQt(data::fileText(folder));
-    workWithBox(
-        &window_, tr("Reading the files of %1").arg(name), {},
-        [folder, chosen = options()](const WorkHandle&) {
-            return data::readImportFolder(folder, chosen);
-        },
-        [this, name](std::vector<data::ImportReport> reports) {
-            append(std::move(reports), name);
-        });
+    append(tr("Reading the files of %1").arg(name), name,
+           [folder, chosen = options()] { return data::readImportFolder(folder, chosen); });
 }
 
-void ExchangeActions::append(std::vector<data::ImportReport> reports, const QString& what)
+void ExchangeActions::append(const QString& working, const QString& what, const ReadReports& read)
 {
-    std::size_t added = 0;
-    database().change(tr("Import %1").arg(what), [&](data::ChartDatabase& charts) {
-        for (data::ImportReport& report : reports) {
-            added += data::appendImport(charts, report);
-        }
-        return added > 0 ? Outcome::Done : Outcome::Cancelled;
+    // Shared, because the work may outlive the window.
+    auto reports = std::make_shared<std::vector<data::ImportReport>>();
+    LongChange change{working, tr("Import %1").arg(what), database().revision(),
+                      [reports, read](data::ChartDatabase& charts, const data::LongWork&) {
+                          *reports = read();
+                          std::size_t added = 0;
+                          for (data::ImportReport& report : *reports) {
+                              added += data::appendImport(charts, report);
+                          }
+                          return added > 0 ? Outcome::Done : Outcome::Cancelled;
+                      }};
+    changeWithBox(window_, std::move(change), [this, reports](Outcome) {
+        auto* const dialog = new TImportReportDlg(*reports, &window_);
+        dialog->setAttribute(Qt::WA_DeleteOnClose);
+        dialog->open();
     });
-    auto* const dialog = new TImportReportDlg(reports, &window_);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->open();
 }
 
 void ExchangeActions::addLines(const std::string& lines)
@@ -280,10 +282,7 @@ void ExchangeActions::exportAs(data::ExportFormat format, const QString& caption
         },
         [this, name = *file](const Written& written) {
             if (!written.result) {
-                files_.messages().notice(
-                    data::kErrorCaption,
-                    data::kSavingError +
-                        (L" " + core::fromFileBytes(written.result.error().text())));
+                data::tellSavingError(written.result.error(), files_.messages());
                 return;
             }
             if (written.report.notes.empty()) {

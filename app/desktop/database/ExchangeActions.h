@@ -44,7 +44,9 @@ private:
     void preview(const std::shared_ptr<Merging>& merging);
     void ImportFileActionClick();
     void ImportFolderActionClick();
-    void append(std::vector<data::ImportReport> reports, const QString& what);
+    using ReadReports = std::function<std::vector<data::ImportReport>()>;
+
+    void append(const QString& working, const QString& what, const ReadReports& read);
     void exportAs(data::ExportFormat format, const QString& caption, const QString& suffix,
                   const std::wstring& filter);
     [[nodiscard]] data::ImportOptions options();

@@ -1,6 +1,7 @@
 #include "app/desktop/database/OpenDatabase.h"
 
 #include "app/desktop/database/SettledMessages.h"
+#include "app/desktop/shell/BackgroundWork.h"
 #include "app/desktop/shell/Convert.h"
 #include "app/present/BirthRecord.h"
 #include "data/ChartLine.h"
@@ -8,6 +9,7 @@
 #include "data/CleanText.h"
 #include "data/DatabaseMessages.h"
 
+#include <QEventLoop>
 #include <QFileSystemWatcher>
 #include <QTimer>
 #include <QUndoCommand>
@@ -86,7 +88,7 @@ private:
 
 OpenDatabase::OpenDatabase(data::DateOrder order, QObject* parent)
     : QObject(parent), charts_(order), watcher_(new QFileSystemWatcher(this)),
-      lookTimer_(new QTimer(this))
+      lookTimer_(new QTimer(this)), saving_(new BackgroundWork(this))
 {
     settings_.monthFirst = order == data::DateOrder::MonthFirst;
     lookTimer_->setSingleShot(true);
@@ -94,6 +96,11 @@ OpenDatabase::OpenDatabase(data::DateOrder order, QObject* parent)
     connect(watcher_, &QFileSystemWatcher::fileChanged, lookTimer_, qOverload<>(&QTimer::start));
     connect(lookTimer_, &QTimer::timeout, this, &OpenDatabase::lookAtFile);
     connect(&undo_, &QUndoStack::cleanChanged, this, &OpenDatabase::modifiedChanged);
+    const auto count = [this] {
+        ++revision_;
+    };
+    connect(this, &OpenDatabase::reset, this, count);
+    connect(this, &OpenDatabase::linesEdited, this, count);
 }
 
 OpenDatabase::~OpenDatabase() = default;
@@ -111,6 +118,7 @@ core::Result<void> OpenDatabase::load(const std::filesystem::path& path)
 
 void OpenDatabase::adopt(Content content)
 {
+    waitForSave();
     charts_ = std::move(content.charts);
     list_ = std::move(content.list);
     undo_.clear();
@@ -122,7 +130,9 @@ void OpenDatabase::adopt(Content content)
 
 void OpenDatabase::follow(const core::Settings& settings)
 {
-    if (settings.monthFirst != settings_.monthFirst) {
+    // Lines that were just turned have the order already.
+    if (settings.monthFirst != settings_.monthFirst &&
+        charts_.order() != present::dateOrder(settings)) {
         charts_.setOrder(present::dateOrder(settings));
         relist();
         emit reset();
@@ -254,57 +264,92 @@ bool OpenDatabase::renameRecord(std::size_t line, const QString& name, QString& 
     return true;
 }
 
-Outcome OpenDatabase::change(const QString& text,
-                             const std::function<Outcome(data::ChartDatabase&)>& work)
+OpenDatabase::Changed OpenDatabase::changedCopy(const data::ChartDatabase& charts, const Work& work)
 {
-    data::ChartDatabase changed = charts_;
-    const Outcome outcome = work(changed);
-    if (outcome != Outcome::Done) {
-        return outcome;
+    Changed changed{{charts, {}}, {}, Outcome::Cancelled};
+    changed.outcome = work(changed.content.charts);
+    if (changed.outcome == Outcome::Done) {
+        changed.edits = differences(charts, changed.content.charts);
+        if (changed.edits.size() > kFewLines || changed.content.charts.order() != charts.order()) {
+            changed.content.list = data::listCharts(changed.content.charts);
+        }
     }
-    std::vector<LineEdit> edits = differences(charts_, changed);
-    const bool saved = !changed.modified();
-    const bool sameOrder = changed.order() == charts_.order();
-    charts_ = std::move(changed);
-    if (edits.size() > kFewLines || !sameOrder) {
-        relist();
+    return changed;
+}
+
+Outcome OpenDatabase::change(const QString& text, const Work& work)
+{
+    Changed changed = changedCopy(charts_, work);
+    const Outcome outcome = changed.outcome;
+    adoptChange(text, std::move(changed));
+    return outcome;
+}
+
+void OpenDatabase::adoptChange(const QString& text, Changed changed)
+{
+    if (changed.outcome != Outcome::Done) {
+        return;
+    }
+    const bool sameOrder = changed.content.charts.order() == charts_.order();
+    charts_ = std::move(changed.content.charts);
+    if (changed.edits.size() > kFewLines || !sameOrder) {
+        list_ = std::move(changed.content.list);
         emit reset();
     } else {
-        for (const LineEdit& edit : edits) {
+        for (const LineEdit& edit : changed.edits) {
             applyToList(edit);
         }
     }
-    emit linesEdited(edits);
-    if (!edits.empty()) {
-        pushStep(text, std::move(edits));
+    emit linesEdited(changed.edits);
+    if (!changed.edits.empty()) {
+        pushStep(text, std::move(changed.edits));
     }
+}
+
+void OpenDatabase::beginSave(const std::filesystem::path& path, Saved then)
+{
+    waitForSave();
+    savesChanges_ = !undo_.isClean();
+    // Shared, because the work may outlive the window.
+    const auto bytes = std::make_shared<const std::vector<std::uint8_t>>(charts_.bytes());
+    saving_->start(
+        [path, bytes](const WorkHandle&) -> core::Result<data::FileStamp> {
+            const core::Result<void> written = core::writeFileSafely(path, *bytes);
+            return written ? core::Result(data::stampOf(path)) : written.error();
+        },
+        [this, path, then = std::move(then)](const core::Result<data::FileStamp>& saved) {
+            finishSave(path, saved);
+            then(saved ? core::Result<void>() : saved.error());
+        },
+        IfGivenUp::DoAnyway);
+    // Steps from here on are not saved.
+    undo_.setClean();
+}
+
+void OpenDatabase::finishSave(const std::filesystem::path& path,
+                              const core::Result<data::FileStamp>& saved)
+{
     if (saved) {
-        undo_.setClean();
+        charts_.setSaved(path, saved.value(), !undo_.isClean());
         watch();
+    } else if (savesChanges_) {
+        undo_.resetClean();
     }
-    return outcome;
+    emit modifiedChanged();
 }
 
-Outcome OpenDatabase::save(core::Messages& messages)
+bool OpenDatabase::saving() const
 {
-    const Outcome outcome = data::saveDatabase(charts_, messages);
-    if (outcome == Outcome::Done) {
-        undo_.setClean();
-        watch();
-        emit modifiedChanged();
-    }
-    return outcome;
+    return saving_->running();
 }
 
-Outcome OpenDatabase::saveAs(const std::filesystem::path& path, core::Messages& messages)
+void OpenDatabase::waitForSave()
 {
-    const Outcome outcome = data::saveDatabaseAs(charts_, path, messages);
-    if (outcome == Outcome::Done) {
-        undo_.setClean();
-        watch();
-        emit modifiedChanged();
+    if (saving()) {
+        QEventLoop loop;
+        connect(saving_, &BackgroundWork::finished, &loop, &QEventLoop::quit);
+        loop.exec(QEventLoop::ExcludeUserInputEvents | QEventLoop::ExcludeSocketNotifiers);
     }
-    return outcome;
 }
 
 void OpenDatabase::pushStep(const QString& text, std::vector<LineEdit> edits)
@@ -407,6 +452,10 @@ void OpenDatabase::watch()
 
 void OpenDatabase::lookAtFile()
 {
+    if (saving()) {
+        lookTimer_->start();
+        return;
+    }
     // A file that was replaced is not watched any more.
     const QString file = toQt(path());
     if (!file.isEmpty() && !watcher_->files().contains(file)) {

@@ -20,9 +20,12 @@
 
 class QFileSystemWatcher;
 class QTimer;
+class QWidget;
 
 namespace kestrav::desktop
 {
+
+class BackgroundWork;
 
 /// One line before and after a step: nothing before for a line that is added, nothing after for one
 /// that is taken out.
@@ -47,6 +50,15 @@ public:
         data::ChooserList list;
     };
 
+    /// What a worker made of a copy of the charts, for adoptChange(). The list is needed only where
+    /// several lines are changed.
+    struct Changed
+    {
+        Content content;
+        std::vector<LineEdit> edits;
+        data::Outcome outcome = data::Outcome::Cancelled;
+    };
+
     explicit OpenDatabase(data::DateOrder order, QObject* parent = nullptr);
     ~OpenDatabase() override;
 
@@ -65,10 +77,16 @@ public:
     {
         return charts_.path();
     }
-    /// Whether something was changed since the file was read or saved.
+    /// Whether there is something that is not in the file: steps since it was read or saved, or
+    /// while it is being saved.
     [[nodiscard]] bool modified() const
     {
-        return !undo_.isClean();
+        return !undo_.isClean() || (saving() && savesChanges_);
+    }
+    /// Counts what was done to the lines, so that a worker's result for other lines is known.
+    [[nodiscard]] int revision() const
+    {
+        return revision_;
     }
     /// Whether the file, or a new one in its folder, can be written.
     [[nodiscard]] bool writable() const;
@@ -94,12 +112,25 @@ public:
     void deleteRecords(std::vector<std::size_t> lines);
     /// Gives the chart another name. False, with the reason, for a name that cannot be one.
     bool renameRecord(std::size_t line, const QString& name, QString& problem);
-    /// Any other change: the work is done on a copy, and one step is made of what it changed.
-    data::Outcome change(const QString& text,
-                         const std::function<data::Outcome(data::ChartDatabase&)>& work);
+    using Work = std::function<data::Outcome(data::ChartDatabase&)>;
 
-    data::Outcome save(core::Messages& messages);
-    data::Outcome saveAs(const std::filesystem::path& path, core::Messages& messages);
+    /// Any other change: the work is done on a copy, and one step is made of what it changed.
+    data::Outcome change(const QString& text, const Work& work);
+    /// Does such work on a copy, on any thread.
+    [[nodiscard]] static Changed changedCopy(const data::ChartDatabase& charts, const Work& work);
+    /// Makes one step of what was changed, which was done to the lines as they are now.
+    void adoptChange(const QString& text, Changed changed);
+
+    using Saved = std::function<void(const core::Result<void>&)>;
+
+    /// Begins to write the lines as they are now to a file, which is the database's own when that
+    /// is done. Another thread writes; steps meanwhile are not saved. `then` learns how it ended.
+    /// Whether a file may be replaced is for the caller to ask.
+    void beginSave(const std::filesystem::path& path, Saved then);
+    [[nodiscard]] bool saving() const;
+    /// Waits for the end of what is being saved. The window is painted meanwhile, but the user's
+    /// input waits as well.
+    void waitForSave();
 
     [[nodiscard]] QUndoStack& undoStack()
     {
@@ -131,6 +162,7 @@ private:
     void applyToLines(const LineEdit& edit);
     void applyToList(const LineEdit& edit);
     void relist();
+    void finishSave(const std::filesystem::path& path, const core::Result<data::FileStamp>& saved);
     void watch();
     void lookAtFile();
 
@@ -140,6 +172,9 @@ private:
     QUndoStack undo_;
     QFileSystemWatcher* watcher_;
     QTimer* lookTimer_;
+    BackgroundWork* saving_;
+    bool savesChanges_ = false;
+    int revision_ = 0;
     bool toldChange_ = false;
 };
 
