@@ -195,6 +195,8 @@ void ChartActions::changeGroup(wchar_t group, GroupChange how)
     if (!database_.writable() && !files_.saveAs()) {
         return;
     }
+    // The tags are written to the file, and with them what was typed.
+    emit database_.editsDue();
     SettledMessages settled(files_.messages(), window_.workspace().settings());
     const auto file = data::agreesToChangeGroup(group, settled)
                           ? data::agreeToSave(database_.charts(), database_.path(), settled)

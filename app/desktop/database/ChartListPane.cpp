@@ -56,7 +56,8 @@ ChartListPane::ChartListPane(Workspace& workspace, QWidget* parent)
     : QWidget(parent), workspace_(workspace), model_(new ChartListModel(workspace, this)),
       reading_(new BackgroundWork(this)), filter_(new QLineEdit(this)), sort_(new QComboBox(this)),
       label_(new QComboBox(this)), reloadBar_(new QFrame(this)), reloadText_(quietLabel(this)),
-      list_(new QTreeView(this)), count_(quietLabel(this)), sections_(new QTreeWidget(this))
+      list_(new QTreeView(this)), count_(quietLabel(this)), hint_(quietLabel(list_->viewport())),
+      sections_(new QTreeWidget(this))
 {
     setObjectName(QStringLiteral("ChartListPane"));
     setAccessibleName(tr("Charts"));
@@ -147,6 +148,12 @@ void ChartListPane::makeList()
     }
     connect(list_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &ChartListPane::showCount);
+    hint_->setObjectName(QStringLiteral("EmptyListLabel"));
+    hint_->setAlignment(Qt::AlignCenter);
+    hint_->setWordWrap(true);
+    hint_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    auto* const inside = new QVBoxLayout(list_->viewport());
+    inside->addWidget(hint_);
     count_->setObjectName(QStringLiteral("CountLabel"));
     count_->setAccessibleName(tr("Number of charts"));
 }
@@ -336,17 +343,24 @@ bool ChartListPane::editName(std::size_t line)
     if (row) {
         show();
         const QModelIndex index = model_->index(*row, ChartListModel::NameColumn);
-        list_->setCurrentIndex(index);
+        makeCurrent(index);
         list_->setFocus(Qt::ShortcutFocusReason);
         list_->edit(index);
     }
     return row.has_value();
 }
 
+// Alone, also while Ctrl or Shift is held for the key that led here.
+void ChartListPane::makeCurrent(const QModelIndex& index)
+{
+    list_->selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect |
+                                                        QItemSelectionModel::Rows);
+}
+
 void ChartListPane::selectLine(std::size_t line)
 {
     if (const std::optional<int> row = model_->positionOf(line)) {
-        list_->setCurrentIndex(model_->index(*row, 0));
+        makeCurrent(model_->index(*row, 0));
     }
 }
 
@@ -373,6 +387,10 @@ void ChartListPane::showCount()
         text += tr(", %1 selected").arg(locale.toString(selected));
     }
     count_->setText(text);
+    // A list that shows nothing says why.
+    hint_->setText(all == 0 ? tr("There are no charts yet. Chart / New Chart enters one.")
+                            : tr("No chart fits the filter and the group chosen above."));
+    hint_->setVisible(shown == 0);
 }
 
 void ChartListPane::keepSelection()
@@ -393,7 +411,7 @@ void ChartListPane::restoreSelection()
         current = 0;
     }
     if (current) {
-        list_->setCurrentIndex(model_->index(*current, 0));
+        makeCurrent(model_->index(*current, 0));
     }
     if (keptLines_.size() > 1 && keptLines_.size() <= kMostKept) {
         for (const std::size_t line : keptLines_) {

@@ -15,6 +15,7 @@ class QComboBox;
 class QFrame;
 class QLabel;
 class QLineEdit;
+class QModelIndex;
 class QMenu;
 class QTreeView;
 class QTreeWidget;
@@ -95,6 +96,7 @@ private:
     void SortComboBoxActivated(int index);
     void LabelComboBoxActivated(int index);
     void SectionsTreeItemActivated(QTreeWidgetItem* item);
+    void makeCurrent(const QModelIndex& index);
     void ChartChanged();
 
     Workspace& workspace_;
@@ -107,6 +109,7 @@ private:
     QLabel* reloadText_;
     QTreeView* list_;
     QLabel* count_;
+    QLabel* hint_; ///< why nothing is listed
     QTreeWidget* sections_;
     QTreeWidgetItem* openItem_ = nullptr;
     QTreeWidgetItem* recentItem_ = nullptr;

@@ -6,10 +6,12 @@
 #include "app/desktop/database/DropTarget.h"
 #include "app/desktop/database/ExchangeActions.h"
 #include "app/desktop/database/OpenDatabase.h"
+#include "app/desktop/database/OpenQueue.h"
 #include "app/desktop/database/RecentFiles.h"
 #include "app/desktop/database/ResearchActions.h"
 #include "app/desktop/database/SettledMessages.h"
 #include "app/desktop/database/TProgressDlg.h"
+#include "app/desktop/database/UnsavedCopy.h"
 #include "app/desktop/pages/PageStrip.h"
 #include "app/desktop/pages/PageView.h"
 #include "app/desktop/shell/Convert.h"
@@ -70,7 +72,8 @@ Reading readDatabase(const std::filesystem::path& path, data::DateOrder order,
 } // namespace
 
 DatabaseActions::DatabaseActions(TKSVform1& window)
-    : QObject(&window), window_(window), pane_(new ChartListPane(window.workspace(), &window))
+    : QObject(&window), window_(window), pane_(new ChartListPane(window.workspace(), &window)),
+      queue_(new OpenQueue(window, *this))
 {
     database().follow(window_.workspace().settings());
     connect(&window_.workspace(), &Workspace::settingsChanged, this,
@@ -111,6 +114,7 @@ DatabaseActions::DatabaseActions(TKSVform1& window)
         }
     });
     window_.addCloseQuestion([this] { return mayLeave(); });
+    new UnsavedCopy(window_, *exchange);
 }
 
 OpenDatabase& DatabaseActions::database()
@@ -212,6 +216,11 @@ void DatabaseActions::open(const std::filesystem::path& path, std::function<void
     } else {
         answer(false);
     }
+}
+
+void DatabaseActions::openInTurn(const std::filesystem::path& path)
+{
+    queue_->add(path);
 }
 
 void DatabaseActions::read(const std::filesystem::path& path, std::function<void(bool opened)> then,

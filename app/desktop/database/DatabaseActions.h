@@ -17,6 +17,7 @@ namespace kestrav::desktop
 
 class ChartListPane;
 class OpenDatabase;
+class OpenQueue;
 class TKSVform1;
 
 class DatabaseActions : public QObject
@@ -31,6 +32,9 @@ public:
     /// program is imported, and a yoga file loaded. What is wrong with the file is told. `then`
     /// learns whether a database was opened; large files are read on another thread.
     void open(const std::filesystem::path& path, std::function<void(bool opened)> then = {});
+
+    /// Opens files that another program asks for, one after the other, each when no dialog is open.
+    void openInTurn(const std::filesystem::path& path);
 
     /// Saves on another thread; asks for another name where the file cannot be written. False when
     /// the user cancels. How it ended is told later.
@@ -77,6 +81,7 @@ private:
     TKSVform1& window_;
     TMessages messages_;
     ChartListPane* pane_;
+    OpenQueue* queue_;
     bool quiet_ = false;
     bool saved_ = false;
 };

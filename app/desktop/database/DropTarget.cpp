@@ -60,8 +60,7 @@ void DropTarget::take(const QMimeData& mime)
     // keep it waiting.
     for (const QUrl& url : mime.urls()) {
         if (url.isLocalFile()) {
-            QTimer::singleShot(0, this,
-                               [this, file = toPath(url.toLocalFile())] { files_.open(file); });
+            files_.openInTurn(toPath(url.toLocalFile()));
         }
     }
 }

@@ -32,6 +32,9 @@ struct ExchangeActions::Merging
     data::ChartDatabase ours;
     data::ChartDatabase theirs;
     std::filesystem::path path;
+    std::filesystem::path name; ///< what the user is shown for the path
+    data::MergeChanged first = data::MergeChanged::Skip;
+    std::function<void()> merged;
     int revision = 0;
     NotedMessages notes;
     bool opened = false;
@@ -130,17 +133,27 @@ void ExchangeActions::MergeActionClick()
 {
     const auto file = TMessages::fileToOpen(&window_, tr("Merge Database"), data::kDatabaseFilter,
                                             QFileInfo(toQt(database().path())).path());
-    if (!file) {
-        return;
+    if (file) {
+        const std::filesystem::path path = toPath(*file);
+        merge(path, path, data::MergeChanged::Skip, {});
     }
+}
+
+void ExchangeActions::merge(const std::filesystem::path& file, const std::filesystem::path& name,
+                            data::MergeChanged first, std::function<void()> merged)
+{
+    emit database().editsDue();
     // Shared, because the work may outlive the window.
     auto merging = std::make_shared<Merging>();
+    merging->name = name;
+    merging->first = first;
+    merging->merged = std::move(merged);
     merging->ours = database().charts();
     merging->revision = database().revision();
     merging->theirs = data::ChartDatabase(merging->ours.order());
-    merging->path = toPath(*file);
+    merging->path = file;
     workWithBox(
-        &window_, tr("Comparing %1").arg(QFileInfo(*file).fileName()), {},
+        &window_, tr("Comparing %1").arg(toQt(data::fileText(name))), {},
         [merging](const WorkHandle&) {
             merging->opened =
                 data::openDatabase(merging->theirs, merging->path, merging->notes) == Outcome::Done;
@@ -160,21 +173,25 @@ void ExchangeActions::MergeActionClick()
 
 void ExchangeActions::preview(const std::shared_ptr<Merging>& merging)
 {
-    auto* const dialog = new TMergePreviewDlg(merging->preview, merging->table, merging->path,
+    auto* const dialog = new TMergePreviewDlg(merging->preview, merging->table, merging->name,
                                               database().path(), &window_);
+    dialog->choose(merging->first);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this, [this, dialog, merging] {
         auto result = std::make_shared<data::MergeResult>();
-        const QString name = toQt(data::fileText(merging->path));
+        const QString name = toQt(data::fileText(merging->name));
         LongChange change{tr("Merging %1").arg(name), tr("Merge %1").arg(name), merging->revision,
                           [merging, result, changed = dialog->changed()](data::ChartDatabase& ours,
                                                                          const data::LongWork&) {
                               *result = data::merge(ours, merging->preview, changed);
                               return Outcome::Done;
                           }};
-        changeWithBox(window_, std::move(change), [this, result](Outcome) {
+        changeWithBox(window_, std::move(change), [this, merging, result](Outcome) {
             window_.workspace().tell(
                 tr("%1 added, %2 replaced").arg(charts(result->added)).arg(result->replaced));
+            if (merging->merged) {
+                merging->merged();
+            }
         });
     });
     dialog->open();

@@ -10,6 +10,7 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -32,6 +33,11 @@ public:
 
     /// Adds the charts of a file to the open database after the question, and reports them.
     void importFile(const std::filesystem::path& file);
+    /// Shows what merging a database would do, and does it when the user agrees. `name` stands for
+    /// the file in what is shown, `first` is what is chosen for changed charts at first, and
+    /// `merged` is called when it was done.
+    void merge(const std::filesystem::path& file, const std::filesystem::path& name,
+               data::MergeChanged first, std::function<void()> merged);
     /// Adds chart lines that were dropped; those that are there already are left out.
     void addLines(const std::string& lines);
 

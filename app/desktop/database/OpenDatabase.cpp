@@ -168,19 +168,20 @@ std::optional<core::Chart> OpenDatabase::record(std::size_t line)
 }
 
 std::optional<std::size_t> OpenDatabase::saveRecord(const core::Chart& chart,
-                                                    core::Messages& messages)
+                                                    core::Messages& messages,
+                                                    std::optional<std::size_t> own)
 {
     SettledMessages settled(messages, settings_);
     core::Chart clean = chart;
     data::cleanRecord(clean);
-    const std::optional<std::size_t> known = charts_.find(clean.name);
+    const std::optional<std::size_t> known = data::lineOfName(charts_, clean.name, own);
     std::optional<std::string> before;
     if (known) {
         before = charts_.line(*known);
     }
     const std::size_t size = charts_.size();
     const std::optional<std::size_t> line =
-        data::saveChart(charts_, chart, {settings_.confirmShortYear}, settled);
+        data::saveChart(charts_, chart, {settings_.confirmShortYear}, settled, own);
     if (!line) {
         return std::nullopt;
     }

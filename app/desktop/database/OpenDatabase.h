@@ -20,7 +20,6 @@
 
 class QFileSystemWatcher;
 class QTimer;
-class QWidget;
 
 namespace kestrav::desktop
 {
@@ -102,8 +101,10 @@ public:
 
     /// Puts a chart in, after the questions about its year, its name and the record of the moment
     /// as far as they are switched on. A chart of the same name is replaced when the user agrees.
-    /// The index of its line, or nothing when the user cancelled. The file is not written.
-    std::optional<std::size_t> saveRecord(const core::Chart& chart, core::Messages& messages);
+    /// `own` is the line that the chart was read from, which is meant where several charts have its
+    /// name. The index of its line, or nothing when the user cancelled. The file is not written.
+    std::optional<std::size_t> saveRecord(const core::Chart& chart, core::Messages& messages,
+                                          std::optional<std::size_t> own = std::nullopt);
     /// Takes the chart of a line out without a question. False when there is no such line.
     bool deleteRecord(std::size_t line);
     /// The same after the question. No line stands for a chart that was never saved, which is told.

@@ -89,6 +89,11 @@ data::MergeChanged TMergePreviewDlg::changed() const
     return data::MergeChanged(choices_->checkedId());
 }
 
+void TMergePreviewDlg::choose(data::MergeChanged changed)
+{
+    choices_->button(int(changed))->setChecked(true);
+}
+
 void TMergePreviewDlg::showResult()
 {
     const bool both = changed() == data::MergeChanged::Both;

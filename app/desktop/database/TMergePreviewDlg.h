@@ -24,6 +24,7 @@ public:
                      QWidget* parent);
 
     [[nodiscard]] data::MergeChanged changed() const;
+    void choose(data::MergeChanged changed);
 
 private:
     void showResult();

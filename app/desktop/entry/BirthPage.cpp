@@ -103,6 +103,7 @@ BirthPage::BirthPage(Workspace& workspace, QWidget* parent)
     addRow(*rows, tr("&Date:"), {date_.edit, dateLabel_, date_.note});
     addRow(*rows, tr("&Time:"), {time_, timeNote_});
     place_->addTo(*rows);
+    tabThroughRows(*rows);
     time_->setToolTip(tr("Clock time, such as 14:30, 14:30:15 or 2:30 pm"));
     place_->setAnswering([this](const data::Places& places, const data::Place& place) {
         return data::answerAt(places, place, moment());

@@ -2,40 +2,22 @@
 
 #include "app/desktop/entry/EntryDraft.h"
 #include "app/desktop/shell/Convert.h"
-#include "app/desktop/shell/Theme.h"
 #include "data/ChartLineFields.h"
 
-#include <QEvent>
-#include <QHBoxLayout>
 #include <QLabel>
-#include <QPalette>
 #include <QPushButton>
 
 namespace kestrav::desktop
 {
 
-DraftBar::DraftBar(QWidget* parent) : QFrame(parent), text_(new QLabel(this))
+DraftBar::DraftBar(QWidget* parent)
+    : OfferBar(tr("Continue"), tr("Opens data entry with what was typed"), tr("Discard"),
+               tr("Throws away what was typed"), parent)
 {
     setObjectName(QStringLiteral("DraftBar"));
-    setAutoFillBackground(true);
-    text_->setObjectName(QStringLiteral("DraftLabel"));
-    text_->setTextFormat(Qt::PlainText);
-    text_->setWordWrap(true);
-    auto* const go = new QPushButton(tr("Continue"), this);
-    go->setObjectName(QStringLiteral("ContinueDraftButton"));
-    go->setToolTip(tr("Opens data entry with what was typed"));
-    auto* const drop = new QPushButton(tr("Discard"), this);
-    drop->setObjectName(QStringLiteral("DiscardDraftButton"));
-    drop->setToolTip(tr("Throws away what was typed"));
-    auto* const box = new QHBoxLayout(this);
-    const int gap = fontMetrics().height() / 3;
-    box->setContentsMargins(2 * gap, gap, gap, gap);
-    box->addWidget(text_, 1);
-    box->addWidget(go);
-    box->addWidget(drop);
-    connect(go, &QPushButton::clicked, this, &DraftBar::continued);
-    connect(drop, &QPushButton::clicked, this, &DraftBar::discarded);
-    hide();
+    label().setObjectName(QStringLiteral("DraftLabel"));
+    takeButton().setObjectName(QStringLiteral("ContinueDraftButton"));
+    dropButton().setObjectName(QStringLiteral("DiscardDraftButton"));
 }
 
 void DraftBar::lookAgain()
@@ -52,12 +34,7 @@ void DraftBar::lookAgain()
     if (drafts.size() > 1) {
         text += tr(" (%1 in all)").arg(drafts.size());
     }
-    text_->setText(text);
-    setAccessibleName(text);
-    QPalette palette;
-    palette.setColor(QPalette::Window, themeColour(ThemeRole::News));
-    setPalette(palette);
-    show();
+    offer(text);
 }
 
 } // namespace kestrav::desktop

@@ -1,14 +1,13 @@
 // The bar that offers an unfinished chart entry.
 #pragma once
 
-#include <QFrame>
-
-class QLabel;
+#include "app/desktop/shell/OfferBar.h"
 
 namespace kestrav::desktop
 {
 
-class DraftBar : public QFrame
+/// Taken means that the user wants to go on with the last draft, dropped that it is to go.
+class DraftBar : public OfferBar
 {
     Q_OBJECT
 
@@ -17,15 +16,6 @@ public:
 
     /// Shows the bar when drafts were kept, and hides it when there are none.
     void lookAgain();
-
-signals:
-    /// The user wants to go on with the last one.
-    void continued();
-    /// The last one is to go.
-    void discarded();
-
-private:
-    QLabel* text_;
 };
 
 } // namespace kestrav::desktop

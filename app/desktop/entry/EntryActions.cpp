@@ -96,8 +96,8 @@ EntryActions::EntryActions(TKSVform1& window)
         // Below the news.
         box->insertWidget(1, drafts_);
     }
-    connect(drafts_, &DraftBar::continued, this, &EntryActions::ContinueDraftActionTriggered);
-    connect(drafts_, &DraftBar::discarded, this, &EntryActions::DiscardDraft);
+    connect(drafts_, &DraftBar::taken, this, &EntryActions::ContinueDraftActionTriggered);
+    connect(drafts_, &DraftBar::dropped, this, &EntryActions::DiscardDraft);
     connect(&window_.workspace(), &Workspace::settingsChanged, this, &EntryActions::showDrafts,
             Qt::QueuedConnection);
     window_.addCloseQuestion([this] {
@@ -146,7 +146,7 @@ void EntryActions::NewChartActionTriggered()
 void EntryActions::EditChartActionTriggered()
 {
     if (TDataEntryForm* const form = freeForm()) {
-        form->edit(window_.workspace().record());
+        form->edit(window_.workspace().record(), window_.workspace().chartLine());
     }
     showDrafts();
 }

@@ -13,6 +13,8 @@
 #include <QPushButton>
 
 #include <algorithm>
+#include <cstddef>
+#include <vector>
 
 namespace kestrav::desktop
 {
@@ -22,6 +24,18 @@ namespace
 
 constexpr int kLongestShort = 14;
 constexpr int kLongestWide = 34;
+
+void collectFields(const QLayout& layout, std::vector<QWidget*>& fields)
+{
+    for (int i = 0; i < layout.count(); ++i) {
+        QLayoutItem* const item = layout.itemAt(i);
+        if (item->layout() != nullptr) {
+            collectFields(*item->layout(), fields);
+        } else if (item->widget() != nullptr && item->widget()->focusPolicy() != Qt::NoFocus) {
+            fields.push_back(item->widget());
+        }
+    }
+}
 
 // Takes the Enter keys that no field and no focused button wanted.
 class EnterFilter : public QObject
@@ -107,6 +121,17 @@ void addRow(QFormLayout& form, const QString& label, std::initializer_list<QWidg
         row->addStretch(1);
     }
     form.addRow(text, row);
+}
+
+void tabThroughRows(const QFormLayout& form)
+{
+    // A form layout counts its items in the order in which they were added, which is that of the
+    // rows.
+    std::vector<QWidget*> fields;
+    collectFields(form, fields);
+    for (std::size_t i = 1; i < fields.size(); ++i) {
+        QWidget::setTabOrder(fields[i - 1], fields[i]);
+    }
 }
 
 void keepEnterInside(QDialog& dialog)

@@ -28,6 +28,10 @@ void showNote(QLabel& note, QWidget& field, const QString& problem);
 /// accessible names.
 void addRow(QFormLayout& form, const QString& label, std::initializer_list<QWidget*> fields);
 
+/// Lets Tab walk the fields of the rows from top to bottom and from left to right, whatever the
+/// order in which they were made.
+void tabThroughRows(const QFormLayout& form);
+
 /// Enter in a field ends the field and does not press OK; Ctrl+Enter does. For dialogs in which
 /// much is typed.
 void keepEnterInside(QDialog& dialog);

@@ -104,6 +104,7 @@ PersonPage::PersonPage(QWidget* parent)
     addRow(*rows, tr("Second d&ate:"), {second_.edit, second_.note});
     addRow(*rows, tr("T&hird date:"), {third_.edit, third_.note});
     addRow(*rows, tr("Nu&mbers:"), {numbers_[0], numbers_[1]});
+    tabThroughRows(*rows);
     for (QLineEdit* const edit : {label_, code_, occupation_, status_, freeText_}) {
         watch(edit);
     }

@@ -13,6 +13,7 @@
 #include "data/ChartLineFields.h"
 #include "data/PlaceText.h"
 
+#include <QCheckBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -81,7 +82,8 @@ PlaceFields::PlaceFields(Workspace& workspace, QWidget* form)
       city_(makeEdit(form, "CityEdit", int(data::kPlaceLength))),
       country_(makeEdit(form, "CountryEdit", int(data::kCountryLength))), atlas_(new QLabel(form)),
       lookUp_(new QPushButton(tr("Look U&p"), form)),
-      map_(new QPushButton(tr("&World Map..."), form)), saving_(new QSpinBox(form)),
+      map_(new QPushButton(tr("&World Map..."), form)),
+      savingOn_(new QCheckBox(tr("&in force"), form)), saving_(new QSpinBox(form)),
       savingNote_(makeNote(form, "DstNoteLabel"))
 {
     const QString hint = tr("PC Atlas (if available) will calculate when you leave here (press "
@@ -98,10 +100,13 @@ PlaceFields::PlaceFields(Workspace& workspace, QWidget* form)
     for (QPushButton* const button : {lookUp_, map_}) {
         button->setAutoDefault(false);
     }
+    savingOn_->setObjectName(QStringLiteral("DstCheckBox"));
+    savingOn_->setToolTip(tr("Saving time in force adds the hours that the options say; others can "
+                             "be typed beside it"));
     saving_->setObjectName(QStringLiteral("DstSpinBox"));
     saving_->setRange(0, kMostSaving);
     saving_->setSuffix(tr(" h"));
-    saving_->setAccessibleName(tr("Daylight saving"));
+    saving_->setAccessibleName(tr("Hours of daylight saving"));
     saving_->setToolTip(tr("Whole hours of daylight saving time in force; a half hour belongs "
                            "into the zone"));
 
@@ -132,7 +137,9 @@ PlaceFields::PlaceFields(Workspace& workspace, QWidget* form)
             Qt::QueuedConnection);
     connect(lookUp_, &QPushButton::clicked, this, &PlaceFields::LookUpButtonClick);
     connect(map_, &QPushButton::clicked, this, &PlaceFields::MapButtonClick);
-    connect(saving_, &QSpinBox::valueChanged, this, [this] {
+    connect(savingOn_, &QCheckBox::clicked, this, &PlaceFields::DstCheckBoxClick);
+    connect(saving_, &QSpinBox::valueChanged, this, [this](int hours) {
+        savingOn_->setChecked(hours > 0);
         if (!filling_) {
             savingTouched_ = true;
             check();
@@ -159,9 +166,9 @@ void PlaceFields::makeNumber(Number& number, QWidget* form, const char* name, in
         QRegularExpression(QLatin1Char('[') + accepted + QLatin1Char(']')), number.letter));
     number.note = makeNote(form, prefix + "NoteLabel");
     connect(number.edit, &QLineEdit::textEdited, this,
-            [this, &number](const QString& text) { number.touched = !text.trimmed().isEmpty(); });
+            [&number](const QString& text) { number.touched = !text.trimmed().isEmpty(); });
     connect(number.letter, &QLineEdit::textEdited, this,
-            [this, &number] { number.touched = !number.edit->text().trimmed().isEmpty(); });
+            [&number] { number.touched = !number.edit->text().trimmed().isEmpty(); });
     const auto changed = [this] {
         if (!filling_) {
             check();
@@ -198,8 +205,9 @@ void PlaceFields::addTo(QFormLayout& rows, bool withSaving)
     rows.addRow(QString(), tools);
     addRow(rows, tr("Time &zone:"), {zone_.edit, zone_.letter, zone_.note});
     if (withSaving) {
-        addRow(rows, tr("Daylight sa&ving:"), {saving_, savingNote_});
+        addRow(rows, tr("Daylight sa&ving:"), {savingOn_, saving_, savingNote_});
     }
+    savingOn_->setVisible(withSaving);
     saving_->setVisible(withSaving);
     savingNote_->setVisible(withSaving);
     addRow(rows, tr("&Longitude:"), {longitude_.edit, longitude_.letter, longitude_.note});
@@ -289,6 +297,12 @@ void PlaceFields::LookUpButtonClick()
     }
     savingTouched_ = false;
     lookUp();
+}
+
+void PlaceFields::DstCheckBoxClick(bool inForce)
+{
+    // An hour at least, as saving time of no hours is none.
+    saving_->setValue(inForce ? std::max(1, workspace_.settings().daylightSavingHours) : 0);
 }
 
 void PlaceFields::MapButtonClick()

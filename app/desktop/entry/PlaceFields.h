@@ -14,6 +14,7 @@
 #include <optional>
 #include <string>
 
+class QCheckBox;
 class QFormLayout;
 class QLabel;
 class QLineEdit;
@@ -90,6 +91,7 @@ private:
     void normalise(Number& number);
     void CountryEditExit();
     void LookUpButtonClick();
+    void DstCheckBoxClick(bool inForce);
     void MapButtonClick();
     void lookUp();
     void showSource();
@@ -104,6 +106,7 @@ private:
     QLabel* atlas_;
     QPushButton* lookUp_;
     QPushButton* map_;
+    QCheckBox* savingOn_;
     QSpinBox* saving_;
     QLabel* savingNote_;
     Number zone_;

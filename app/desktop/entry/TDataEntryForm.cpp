@@ -113,7 +113,7 @@ TDataEntryForm::TDataEntryForm(Workspace& workspace, QWidget* parent)
     });
     newChart();
     // All of a page where the screen has room for it.
-    resize(sizeHint().boundedTo(screen()->availableSize()));
+    resize((sizeHint() + QSize(0, lacking_)).boundedTo(screen()->availableSize()));
 }
 
 TDataEntryForm::~TDataEntryForm()
@@ -134,6 +134,7 @@ void TDataEntryForm::addPage(EntryPage* page, const QString& title)
     // As large as the page, as long as the screen allows it.
     const QSize wanted = page->sizeHint();
     area->setMinimumWidth(wanted.width() + fontMetrics().height() * 2);
+    lacking_ = std::max(lacking_, page->heightForWidth(wanted.width()) - area->sizeHint().height());
     tabs_->addTab(area, title);
     pages_.push_back(page);
     connect(page, &EntryPage::edited, this, &TDataEntryForm::EditChange);
@@ -151,10 +152,12 @@ void TDataEntryForm::newChart()
     filledDraft_ = draftText();
 }
 
-void TDataEntryForm::edit(const core::Chart& record)
+void TDataEntryForm::edit(const core::Chart& record, std::optional<std::size_t> line)
 {
     setWindowTitle(tr("Edit Chart"));
     fill(record);
+    line_ = line;
+    lineText_ = line ? std::string(workspace_.database().charts().line(*line)) : std::string();
     filledDraft_ = draftText();
 }
 
@@ -178,6 +181,7 @@ void TDataEntryForm::goOn(std::string_view draft)
 void TDataEntryForm::fill(const core::Chart& record)
 {
     base_ = record;
+    line_.reset();
     const data::DateOrder order = workspace_.database().charts().order();
     for (EntryPage* const page : pages_) {
         page->fill(record, order);
@@ -253,7 +257,6 @@ void TDataEntryForm::reject()
 {
     if (changed()) {
         keepDraft();
-        workspace_.tell(tr("What was typed is kept as a draft."));
     } else {
         dropDraft();
     }
@@ -272,7 +275,12 @@ void TDataEntryForm::OkButtonClick()
         chart.name = data::kNoNameText;
     }
     TMessages messages;
-    const std::optional<std::size_t> line = workspace_.database().saveRecord(chart, messages);
+    OpenDatabase& database = workspace_.database();
+    // The form stays open while lines come and go, and even another file.
+    const bool there =
+        line_ && *line_ < database.charts().size() && database.charts().line(*line_) == lineText_;
+    const std::optional<std::size_t> line =
+        database.saveRecord(chart, messages, there ? line_ : std::nullopt);
     if (!line) {
         return;
     }

@@ -6,6 +6,8 @@
 
 #include <QDialog>
 
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -34,9 +36,10 @@ public:
     TDataEntryForm(Workspace& workspace, QWidget* parent);
     ~TDataEntryForm() override;
 
-    /// Begins an empty chart, an edit of a record, or goes on with a draft.
+    /// Begins an empty chart, an edit of a record, of which `line` is the one in the database, or
+    /// goes on with a draft.
     void newChart();
-    void edit(const core::Chart& record);
+    void edit(const core::Chart& record, std::optional<std::size_t> line = std::nullopt);
     void goOn(std::string_view draft);
     /// Takes a place of the program's lists, as the world map gives it.
     [[nodiscard]] PlaceFields& place();
@@ -76,9 +79,12 @@ private:
     QTimer* timer_;
     QTimer* soon_; ///< gathers keystrokes before the preview is computed
     core::Chart base_;
+    std::optional<std::size_t> line_; ///< where the edited record stands in the database
+    std::string lineText_;            ///< and what that line was then
     std::string filledDraft_; ///< what was in the form at first; empty for a draft gone on with
     std::string keptDraft_;   ///< what stands in the file for this form
     std::vector<std::string> others_;
+    int lacking_ = 0; ///< what areas that scroll ask for too little
 };
 
 } // namespace kestrav::desktop

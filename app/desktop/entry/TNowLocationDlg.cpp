@@ -36,6 +36,7 @@ TNowLocationDlg::TNowLocationDlg(Workspace& workspace, QWidget* parent)
     auto* const rows = new QFormLayout;
     rows->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     place_->addTo(*rows, false);
+    tabThroughRows(*rows);
     auto* const box = new QVBoxLayout(this);
     box->addWidget(text);
     box->addLayout(rows);

@@ -64,6 +64,7 @@ NotesPanel::NotesPanel(Workspace& workspace, present::Panel panel, QWidget* pare
     connect(find_, &QLineEdit::returnPressed, this, &NotesPanel::FindEditReturnPressed);
     connect(keep_, &QPushButton::clicked, this, &NotesPanel::KeepButtonClick);
     connect(&workspace.database(), &OpenDatabase::editsDue, this, &NotesPanel::keepNotes);
+    connect(&workspace.database(), &OpenDatabase::linesEdited, this, &NotesPanel::followEdits);
     auto* const print = new QAction(tr("&Print Notes..."), this);
     connect(print, &QAction::triggered, this, [this] {
         PaperDocument paper;
@@ -100,12 +101,15 @@ void NotesPanel::refresh()
 {
     const ChartPointer shown = chart();
     const std::wstring name = shown ? shown->chart.name : std::wstring();
-    // Notes that were edited stay while the same chart is computed anew.
-    if (!(text_->document()->isModified() && name == shownOf_)) {
+    const std::optional<std::size_t> line = pinnedChart() ? std::nullopt : workspace().chartLine();
+    // Notes that were edited stay while the same chart is computed anew. Several charts may have
+    // one name, so the line counts too.
+    if (!(text_->document()->isModified() && name == shownOf_ && line == shownLine_)) {
         keepNotes();
         text_->setPlainText(shown ? withLineFeeds(shown->chart.identity.notes) : QString());
         text_->document()->setModified(false);
         shownOf_ = name;
+        shownLine_ = line;
     }
     showState();
 }
@@ -143,9 +147,7 @@ void NotesPanel::keepNotes()
         return;
     }
     OpenDatabase& database = workspace().database();
-    const std::optional<std::size_t> shownLine = workspace().chartLine();
-    const bool same = shownLine && workspace().record().name == shownOf_;
-    const std::optional<std::size_t> line = same ? shownLine : database.charts().find(shownOf_);
+    const std::optional<std::size_t> line = shownLine_;
     std::optional<core::Chart> record = line ? database.record(*line) : std::nullopt;
     if (!record) {
         workspace().tellProblem(tr("The changed notes of %1 were not kept.").arg(toQt(shownOf_)));
@@ -159,6 +161,24 @@ void NotesPanel::keepNotes()
         charts.replace(*line, *record);
         return data::Outcome::Done;
     });
+}
+
+// The line of the chart moves when others come or go before it.
+void NotesPanel::followEdits(const std::vector<LineEdit>& edits)
+{
+    for (const LineEdit& edit : edits) {
+        if (!shownLine_ || edit.line > *shownLine_ ||
+            edit.before.has_value() == edit.after.has_value()) {
+            continue;
+        }
+        if (edit.after) {
+            ++*shownLine_;
+        } else if (edit.line < *shownLine_) {
+            --*shownLine_;
+        } else {
+            shownLine_.reset();
+        }
+    }
 }
 
 void NotesPanel::FindEditReturnPressed()

@@ -3,6 +3,9 @@
 
 #include "app/desktop/panels/PanelWidget.h"
 
+#include <cstddef>
+#include <optional>
+
 class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
@@ -10,6 +13,8 @@ class QPushButton;
 
 namespace kestrav::desktop
 {
+
+struct LineEdit;
 
 class NotesPanel : public PanelWidget
 {
@@ -28,6 +33,7 @@ protected:
 private:
     void KeepButtonClick();
     void keepNotes();
+    void followEdits(const std::vector<LineEdit>& edits);
     void FindEditReturnPressed();
     void showState();
 
@@ -36,7 +42,8 @@ private:
     QPushButton* keep_;
     QLabel* note_;
     QList<QAction*> actions_;
-    std::wstring shownOf_; ///< the chart whose notes are in the editor
+    std::wstring shownOf_;                 ///< the chart whose notes are in the editor
+    std::optional<std::size_t> shownLine_; ///< and its line in the database
 };
 
 } // namespace kestrav::desktop

@@ -25,6 +25,7 @@
 
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace kestrav::desktop
 {
@@ -129,7 +130,7 @@ void TOptionWizardForm::addNames()
 {
     add(addStep(tr("Names"), tr("English words such as Sun and Leo, or Sanskrit ones such as "
                                 "Surya and Simha; letters or symbols in diagrams.")),
-        "displayFlags", tr("&Names"));
+        "displayFlags", tr("Na&mes"));
 }
 
 void TOptionWizardForm::addDiagram()
@@ -330,7 +331,12 @@ void TOptionWizardForm::applyDatabase()
         trigger("OpenAction");
         break;
     case kImport:
-        trigger("ImportFileAction");
+        // The sample charts are no place for charts of one's own.
+        openOwnCharts([&window = window_](bool opened) {
+            if (opened) {
+                window.findChild<QAction*>(QStringLiteral("ImportFileAction"))->trigger();
+            }
+        });
         break;
     default:
         break;
@@ -338,7 +344,7 @@ void TOptionWizardForm::applyDatabase()
 }
 
 // An existing file of that name is opened as it is.
-void TOptionWizardForm::openOwnCharts()
+void TOptionWizardForm::openOwnCharts(std::function<void(bool opened)> then)
 {
     auto* const actions = window_.findChild<DatabaseActions*>();
     const QDir folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) +
@@ -353,7 +359,7 @@ void TOptionWizardForm::openOwnCharts()
         }
     }
     if (actions != nullptr) {
-        actions->open(path);
+        actions->open(path, std::move(then));
     }
 }
 

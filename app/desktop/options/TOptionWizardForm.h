@@ -5,6 +5,7 @@
 
 #include <QDialog>
 
+#include <functional>
 #include <string_view>
 #include <vector>
 
@@ -57,7 +58,7 @@ private:
     void showChoices();
     void chooseNowLocation();
     void applyDatabase();
-    void openOwnCharts();
+    void openOwnCharts(std::function<void(bool opened)> then = {});
     void trigger(const char* command);
     void BackButtonClick();
     void NextButtonClick();

@@ -62,8 +62,10 @@ void SingleInstance::receive()
             QStringList files;
             stream >> files;
             if (stream.commitTransaction()) {
-                emit asked(files);
                 socket->disconnectFromServer();
+                // Questions about the files may stay open long after the socket is gone.
+                QMetaObject::invokeMethod(
+                    this, [this, files] { emit asked(files); }, Qt::QueuedConnection);
             }
         });
     }
