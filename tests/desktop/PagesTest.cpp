@@ -5,14 +5,26 @@
 #include "app/desktop/pages/SavedPages.h"
 #include "app/desktop/pages/TPageLayoutDlg.h"
 #include "app/desktop/panels/PanelWidget.h"
+#include "app/present/Document.h"
 #include "tests/desktop/DesktopForTests.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMouseEvent>
 #include <QPushButton>
+#include <QSignalSpy>
+#include <QSplitter>
+#include <QTabBar>
 #include <QTableWidget>
+#include <QToolButton>
+
+#include <algorithm>
+#include <string>
+#include <vector>
 
 namespace kestrav::desktop
 {
@@ -137,6 +149,184 @@ TEST_F(WindowTest, PinnedPanelsKeepTheirChartAndOthersFollow)
     EXPECT_EQ(toQt(cell->panel()->pinnedChart()->chart.name), first);
     cell->panel()->pin(false);
     EXPECT_FALSE(cell->captionText().contains(first));
+}
+
+std::vector<std::string> namesOf(const PageStrip& pages)
+{
+    std::vector<std::string> names;
+    for (int i = 0; i < pages.count(); ++i) {
+        names.push_back(pages.name(i).toStdString());
+    }
+    return names;
+}
+
+QMenu* submenu(QMenu* menu, const char* title)
+{
+    for (QAction* const action : menu->actions()) {
+        if (action->menu() != nullptr && action->text().remove('&') == QLatin1String(title)) {
+            emit action->menu()->aboutToShow();
+            return action->menu();
+        }
+    }
+    ADD_FAILURE() << "there is no menu " << title;
+    return nullptr;
+}
+
+TEST_F(WindowTest, StepsOfPagesAreTakenBackWithoutTouchingOtherPages)
+{
+    PageStrip& pages = window().pages();
+    const std::vector<std::string> before = namesOf(pages);
+    ASSERT_TRUE(pages.show(QStringLiteral("Vargas")));
+    const int vargas = pages.current();
+    command("ClosePageAction");
+    EXPECT_EQ(pages.count(), int(before.size()) - 1);
+    EXPECT_EQ(pages.current(), vargas) << "the next page takes its place";
+
+    // What is done on another page meanwhile outlives the steps back and forth.
+    ASSERT_TRUE(pages.show(QStringLiteral("Chart")));
+    settle();
+    PanelCell* const cell = pages.page()->cells().constFirst();
+    choose(cell->findChild<QComboBox*>(QStringLiteral("VargaComboBox")), 7);
+    cell->panel()->pin(true);
+    auto* const splitter = pages.page()->findChild<QSplitter*>();
+    ASSERT_NE(splitter, nullptr);
+    QList<int> sizes = splitter->sizes();
+    sizes.front() -= 40;
+    sizes.back() += 40;
+    splitter->setSizes(sizes);
+    sizes = splitter->sizes();
+    command("UndoPageAction");
+    EXPECT_EQ(namesOf(pages), before);
+    EXPECT_EQ(pages.current(), vargas);
+    command("RedoPageAction");
+    command("UndoPageAction");
+    ASSERT_TRUE(pages.show(QStringLiteral("Chart")));
+    EXPECT_EQ(pages.page()->cells().constFirst(), cell);
+    EXPECT_EQ(cell->panel()->panel().varga, 7);
+    EXPECT_NE(cell->panel()->pinnedChart(), nullptr);
+    EXPECT_EQ(splitter->sizes(), sizes);
+
+    // The page itself comes back with its sizes.
+    command("ResetPageAction");
+    EXPECT_EQ(pages.layout(pages.current()).panels.front().varga, 0);
+    command("UndoPageAction");
+    settle();
+    EXPECT_EQ(pages.layout(pages.current()).panels.front().varga, 7);
+    EXPECT_EQ(pages.page()->findChild<QSplitter*>()->sizes(), sizes);
+}
+
+TEST_F(WindowTest, TheSamePageCanStandTwiceAndBeChangedApart)
+{
+    PageStrip& pages = window().pages();
+    const std::vector<std::string> before = namesOf(pages);
+    QMenu* const add = submenu(window().menu(MenuName::Pages), "Add Page");
+    ASSERT_NE(add, nullptr);
+    EXPECT_EQ(add->actions().constFirst()->text(), QStringLiteral("Chart"));
+    add->actions().constFirst()->trigger();
+    settle();
+    ASSERT_EQ(pages.count(), int(before.size()) + 1);
+    EXPECT_EQ(pages.current(), int(before.size()));
+    choose(pages.page()->cells().constFirst()->findChild<QComboBox*>("VargaComboBox"), 5);
+    EXPECT_EQ(pages.layout(pages.current()).panels.front().varga, 5);
+    EXPECT_EQ(pages.layout(0).panels.front().varga, 0);
+    command("UndoPageAction");
+    EXPECT_EQ(namesOf(pages), before);
+    EXPECT_EQ(submenu(window().menu(MenuName::Pages), "Go to Page")->actions().size(),
+              int(before.size()));
+}
+
+TEST_F(WindowTest, PagesAreDrawnToOtherPlacesInTheStrip)
+{
+    PageStrip& pages = window().pages();
+    std::vector<std::string> expected = namesOf(pages);
+    pages.show(0);
+    settle();
+    const PageView* const first = pages.page();
+    auto* const tabs = find<QTabBar>("PageTabs");
+    const QPoint from = tabs->tabRect(0).center();
+    const QPoint to(tabs->tabRect(2).right() - 2, from.y());
+    QTest::mousePress(tabs, Qt::LeftButton, {}, from);
+    for (int x = from.x(); x <= to.x(); x += 5) {
+        QMouseEvent move(QEvent::MouseMove, QPointF(x, from.y()),
+                         tabs->mapToGlobal(QPointF(x, from.y())), Qt::NoButton, Qt::LeftButton,
+                         Qt::NoModifier);
+        QApplication::sendEvent(tabs, &move);
+    }
+    QTest::mouseRelease(tabs, Qt::LeftButton, {}, to);
+    settle();
+    std::rotate(expected.begin(), expected.begin() + 1, expected.begin() + 3);
+    EXPECT_EQ(namesOf(pages), expected);
+    EXPECT_EQ(tabs->tabText(2).toStdString(), expected[2]);
+    EXPECT_EQ(pages.current(), 2);
+    EXPECT_EQ(pages.page(), first) << "the drawn page stays in view";
+
+    command("UndoPageAction"); // the whole way
+    EXPECT_EQ(pages.name(0).toStdString(), expected[2]);
+    EXPECT_EQ(pages.page(), first);
+    command("RedoPageAction");
+    EXPECT_EQ(namesOf(pages), expected);
+    pages.movePage(2, 0);
+    EXPECT_EQ(pages.name(0).toStdString(), expected[2]);
+    EXPECT_EQ(pages.name(1).toStdString(), expected[0]);
+    EXPECT_EQ(tabs->tabText(1).toStdString(), expected[0]);
+}
+
+TEST_F(WindowTest, ABrokenPageFileIsToldAndTheOthersAreOffered)
+{
+    ASSERT_TRUE(window().pages().show(QStringLiteral("Dashas")));
+    command("SavePageAction");
+    const auto write = [](const char* name, const char* text) {
+        QFile file(toQt(savedPagesFolder() / name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+    };
+    write("broken.txt", "Kestrav page 1\nname \"Broken\"\nrows 1\ncolumns x\n");
+    write("noise.txt", "\x01\xff\x00\x7f");
+    write("empty.txt", "");
+    QSignalSpy news(&workspace(), &Workspace::news);
+    QMenu* const add = submenu(window().menu(MenuName::Pages), "Add Page");
+    ASSERT_NE(add, nullptr);
+    EXPECT_EQ(add->actions().constLast()->text(), QStringLiteral("Dashas"));
+    std::string told;
+    for (const auto& arguments : news) {
+        EXPECT_TRUE(arguments[1].toBool());
+        told += arguments[0].toString().toStdString() + "\n";
+    }
+    EXPECT_EQ(news.size(), 3);
+    EXPECT_NE(told.find("broken.txt: "), std::string::npos) << told;
+    EXPECT_NE(told.find("'x' is not a whole number 1 to 100"), std::string::npos) << told;
+    add->actions().constLast()->trigger();
+    settle();
+    EXPECT_EQ(window().pages().name(window().pages().current()), QStringLiteral("Dashas"));
+}
+
+TEST_F(WindowTest, APinnedPanelStaysThroughDatesAndSecondCharts)
+{
+    ASSERT_TRUE(window().pages().show(QStringLiteral("Chart")));
+    settle();
+    const QList<PanelCell*> cells = window().pages().page()->cells();
+    const auto contents = [](const PanelCell* cell) {
+        present::Document document;
+        document.blocks = cell->panel()->blocks();
+        return present::documentHtml(document);
+    };
+    const std::string first = contents(cells[0]);
+    const std::string beside = contents(cells[1]);
+    cells[0]->findChild<QToolButton*>(QStringLiteral("PinButton"))->click();
+    ASSERT_TRUE(workspace().showLine(5));
+    ASSERT_TRUE(workspace().showSecond(*workspace().database().record(7)));
+    workspace().setMoment(workspace().moment() + 1000.0);
+    settle();
+    EXPECT_EQ(contents(cells[0]), first);
+    EXPECT_NE(contents(cells[1]), beside);
+    workspace().closeChart();
+    settle();
+    EXPECT_EQ(contents(cells[0]), first) << "also when no chart is open any more";
+    ASSERT_TRUE(workspace().showLine(0));
+    cells[0]->findChild<QToolButton*>(QStringLiteral("PinButton"))->click();
+    ASSERT_TRUE(workspace().showLine(5));
+    settle();
+    EXPECT_NE(contents(cells[0]), first);
 }
 
 } // namespace

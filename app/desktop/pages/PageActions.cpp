@@ -26,37 +26,69 @@ using Layouts = std::vector<present::PageLayout>;
 
 constexpr int kPagesWithKeys = 9;
 
-// All pages before and after a step; what lies between is small.
+// A step and the way back.
 class PagesCommand : public QUndoCommand
 {
 public:
-    PagesCommand(const QString& text, PageStrip& pages, Layouts before, Layouts after,
-                 int beforeIndex, int afterIndex)
-        : QUndoCommand(text), pages_(pages), before_(std::move(before)), after_(std::move(after)),
-          beforeIndex_(beforeIndex), afterIndex_(afterIndex)
+    PagesCommand(const QString& text, std::function<void()> step, std::function<void()> back)
+        : QUndoCommand(text), step_(std::move(step)), back_(std::move(back))
     {}
 
     void undo() override
     {
-        pages_.setPages(before_);
-        pages_.show(beforeIndex_);
+        back_();
     }
     void redo() override
     {
-        // The step itself was done before the command was made.
-        if (!std::exchange(done_, true)) {
-            return;
+        step_();
+    }
+
+private:
+    std::function<void()> step_;
+    std::function<void()> back_;
+};
+
+// A page drawn to another place. On its way it passes the others one by one, which is one step.
+class MoveCommand : public QUndoCommand
+{
+public:
+    MoveCommand(PageStrip& pages, int from, int to)
+        : QUndoCommand(PageActions::tr("move page")), pages_(pages), moves_{{from, to}}
+    {}
+
+    [[nodiscard]] int id() const override
+    {
+        return 1;
+    }
+    bool mergeWith(const QUndoCommand* other) override
+    {
+        // The strip moves what the drawn page passes, each to where that page stood.
+        const auto* const next = static_cast<const MoveCommand*>(other);
+        if (next->moves_.front().second != moves_.back().first) {
+            return false;
         }
-        pages_.setPages(after_);
-        pages_.show(afterIndex_);
+        moves_.insert(moves_.end(), next->moves_.begin(), next->moves_.end());
+        return true;
+    }
+    void undo() override
+    {
+        for (auto move = moves_.rbegin(); move != moves_.rend(); ++move) {
+            pages_.movePage(move->second, move->first);
+        }
+    }
+    void redo() override
+    {
+        // The pointer itself has done the step the first time.
+        if (std::exchange(done_, true)) {
+            for (const auto& [from, to] : moves_) {
+                pages_.movePage(from, to);
+            }
+        }
     }
 
 private:
     PageStrip& pages_;
-    Layouts before_;
-    Layouts after_;
-    int beforeIndex_;
-    int afterIndex_;
+    std::vector<std::pair<int, int>> moves_;
     bool done_ = false;
 };
 
@@ -125,6 +157,7 @@ PageActions::PageActions(TKSVform1& window) : QObject(&window), window_(window)
     redo->setObjectName(QStringLiteral("RedoPageAction"));
     redo->setShortcut(Keys(tr("Ctrl+Alt+Shift+Z")));
     window_.menu(MenuName::Pages)->addActions({undo, redo});
+    connect(&window_.pages(), &PageStrip::moved, this, &PageActions::keepMove);
     window_.menu(MenuName::Pages)->addSeparator();
     const auto go = [this](int by) {
         const int count = window_.pages().count();
@@ -148,23 +181,56 @@ PageActions::PageActions(TKSVform1& window) : QObject(&window), window_(window)
     }
 }
 
-void PageActions::change(const QString& what, const std::function<void()>& step)
+void PageActions::change(const QString& what, const std::function<void()>& step,
+                         const std::function<void()>& back)
 {
-    // Panels go with their pages.
-    emit window_.workspace().database().editsDue();
+    const auto guarded = [this](const std::function<void()>& work) {
+        return [this, work] {
+            // Panels go with their pages.
+            emit window_.workspace().database().editsDue();
+            work();
+        };
+    };
+    undo_.push(new PagesCommand(what, guarded(step), guarded(back)));
+}
+
+void PageActions::add(const QString& what, const present::PageLayout& layout)
+{
     PageStrip& pages = window_.pages();
-    Layouts before = pages.layouts();
-    const int beforeIndex = pages.current();
-    step();
-    undo_.push(new PagesCommand(what, pages, std::move(before), pages.layouts(), beforeIndex,
-                                pages.current()));
+    change(
+        what, [&pages, layout] { pages.addPage(layout); },
+        [&pages, index = pages.count(), current = pages.current()] {
+            pages.closePage(index);
+            pages.show(current);
+        });
+}
+
+void PageActions::replace(const QString& what, int index, const present::PageLayout& layout)
+{
+    PageStrip& pages = window_.pages();
+    change(
+        what,
+        [&pages, index, layout] {
+            pages.replacePage(index, layout);
+            pages.show(index);
+        },
+        [&pages, index, before = pages.layout(index), sizes = pages.sizes(index)] {
+            pages.replacePage(index, before);
+            pages.setSizes(index, sizes);
+            pages.show(index);
+        });
+}
+
+void PageActions::keepMove(int from, int to)
+{
+    undo_.push(new MoveCommand(window_.pages(), from, to));
 }
 
 void PageActions::NewPageActionTriggered()
 {
     TPageLayoutDlg dialog(emptyPage(tr("New page")), &window_);
     if (dialog.exec() == QDialog::Accepted) {
-        change(tr("new page"), [&] { window_.pages().addPage(dialog.layoutOfPage()); });
+        add(tr("new page"), dialog.layoutOfPage());
     }
 }
 
@@ -176,8 +242,7 @@ void PageActions::LayoutActionTriggered()
     }
     TPageLayoutDlg dialog(window_.pages().layout(index), &window_);
     if (dialog.exec() == QDialog::Accepted) {
-        change(tr("compose page"),
-               [&] { window_.pages().replacePage(index, dialog.layoutOfPage()); });
+        replace(tr("compose page"), index, dialog.layoutOfPage());
     }
 }
 
@@ -194,7 +259,7 @@ void PageActions::RenameActionTriggered()
     }
     present::PageLayout layout = window_.pages().layout(index);
     layout.name = toUtf8(name->simplified());
-    change(tr("rename page"), [&] { window_.pages().replacePage(index, std::move(layout)); });
+    replace(tr("rename page"), index, layout);
 }
 
 void PageActions::SaveActionTriggered()
@@ -217,7 +282,7 @@ void PageActions::ResetActionTriggered()
         return;
     }
     if (const auto original = originalPage(toUtf8(window_.pages().name(index)))) {
-        change(tr("reset page"), [&] { window_.pages().replacePage(index, *original); });
+        replace(tr("reset page"), index, *original);
     } else {
         window_.workspace().tellProblem(
             tr("There is no saved or delivered page \"%1\".").arg(window_.pages().name(index)));
@@ -226,18 +291,39 @@ void PageActions::ResetActionTriggered()
 
 void PageActions::ResetAllActionTriggered()
 {
-    change(tr("reset pages"), [&] {
-        std::vector<std::string> problems;
-        window_.pages().setPages(deliveredPages(problems));
-    });
+    PageStrip& pages = window_.pages();
+    std::vector<QByteArray> sizes;
+    for (int i = 0; i < pages.count(); ++i) {
+        sizes.push_back(pages.sizes(i));
+    }
+    change(
+        tr("reset pages"),
+        [&pages] {
+            std::vector<std::string> problems;
+            pages.setPages(deliveredPages(problems));
+        },
+        [&pages, before = pages.layouts(), sizes, current = pages.current()] {
+            pages.setPages(before);
+            for (std::size_t i = 0; i < sizes.size(); ++i) {
+                pages.setSizes(int(i), sizes[i]);
+            }
+            pages.show(current);
+        });
 }
 
 void PageActions::CloseActionTriggered()
 {
-    const int index = window_.pages().current();
-    if (index >= 0 && window_.pages().count() > 1) {
-        change(tr("close page"), [&] { window_.pages().closePage(index); });
+    PageStrip& pages = window_.pages();
+    const int index = pages.current();
+    if (index < 0 || pages.count() < 2) {
+        return;
     }
+    change(
+        tr("close page"), [&pages, index] { pages.closePage(index); },
+        [&pages, index, layout = pages.layout(index), sizes = pages.sizes(index)] {
+            pages.insertPage(index, layout);
+            pages.setSizes(index, sizes);
+        });
 }
 
 void PageActions::fillAddMenu(QMenu& menu)
@@ -246,9 +332,8 @@ void PageActions::fillAddMenu(QMenu& menu)
     std::vector<std::string> problems;
     const auto addAll = [&](const Layouts& layouts) {
         for (const present::PageLayout& layout : layouts) {
-            menu.addAction(toQt(layout.name), this, [this, layout] {
-                change(tr("add page"), [&] { window_.pages().addPage(layout); });
-            });
+            menu.addAction(toQt(layout.name), this,
+                           [this, layout] { add(tr("add page"), layout); });
         }
     };
     addAll(deliveredPages(problems));

@@ -33,8 +33,12 @@ private:
     void CloseActionTriggered();
     void fillAddMenu(QMenu& menu);
     void fillGoMenu(QMenu& menu);
-    /// Does something to the pages as a step that can be taken back.
-    void change(const QString& what, const std::function<void()>& step);
+    /// Does something to the pages as a step that can be taken back. Other pages stay as they are.
+    void change(const QString& what, const std::function<void()>& step,
+                const std::function<void()>& back);
+    void add(const QString& what, const present::PageLayout& layout);
+    void replace(const QString& what, int index, const present::PageLayout& layout);
+    void keepMove(int from, int to);
 
     TKSVform1& window_;
     QUndoStack undo_;

@@ -57,7 +57,8 @@ PageStrip::PageStrip(Workspace& workspace, QWidget* parent)
     box->addWidget(stack_, 1);
     connect(tabs_, &QTabBar::currentChanged, this, &PageStrip::showTab);
     connect(tabs_, &QTabBar::tabMoved, this, [this](int from, int to) {
-        std::swap(pages_[std::size_t(from)], pages_[std::size_t(to)]);
+        reorder(from, to);
+        emit moved(from, to);
         emit changed();
     });
 }
@@ -80,13 +81,37 @@ void PageStrip::setPages(std::vector<present::PageLayout> layouts)
     tabs_->updateGeometry();
 }
 
-void PageStrip::addPage(present::PageLayout layout)
+void PageStrip::insertPage(int index, present::PageLayout layout)
 {
-    pages_.push_back({std::move(layout)});
-    const int index = tabs_->addTab(toQt(pages_.back().layout.name));
-    tabs_->setCurrentIndex(index);
+    const QString name = toQt(layout.name);
+    pages_.insert(pages_.begin() + index, Page{std::move(layout)});
+    {
+        // The tab makes room for itself by pages of which it knows nothing.
+        const QSignalBlocker blocker(tabs_);
+        tabs_->insertTab(index, name);
+        tabs_->setCurrentIndex(index);
+    }
     showTab(index);
     emit changed();
+}
+
+void PageStrip::movePage(int from, int to)
+{
+    const QSignalBlocker blocker(tabs_);
+    tabs_->moveTab(from, to);
+    reorder(from, to);
+    emit changed();
+}
+
+// As the tabs are: those between the two places go one place on.
+void PageStrip::reorder(int from, int to)
+{
+    const auto page = pages_.begin();
+    if (from < to) {
+        std::rotate(page + from, page + from + 1, page + to + 1);
+    } else {
+        std::rotate(page + to, page + from, page + from + 1);
+    }
 }
 
 void PageStrip::replacePage(int index, present::PageLayout layout)

@@ -5,6 +5,7 @@
 
 #include <QWidget>
 
+#include <utility>
 #include <vector>
 
 class QStackedWidget;
@@ -25,7 +26,14 @@ public:
 
     /// Replaces all pages. A page is made when it is first shown.
     void setPages(std::vector<present::PageLayout> layouts);
-    void addPage(present::PageLayout layout);
+    /// Puts a page before the one of the index, or behind the last, and shows it.
+    void insertPage(int index, present::PageLayout layout);
+    void addPage(present::PageLayout layout)
+    {
+        insertPage(count(), std::move(layout));
+    }
+    /// Brings a page to another place in the strip.
+    void movePage(int from, int to);
     /// Arranges a page anew, under the name of the layout.
     void replacePage(int index, present::PageLayout layout);
     void closePage(int index);
@@ -46,6 +54,8 @@ public:
 
 signals:
     void currentChanged(int index);
+    /// The user has drawn a page to another place in the strip.
+    void moved(int from, int to);
     /// The user changed, moved, closed or added pages.
     void changed();
 
@@ -58,6 +68,7 @@ private:
     };
 
     void showTab(int index);
+    void reorder(int from, int to);
 
     Workspace& workspace_;
     QTabBar* tabs_;

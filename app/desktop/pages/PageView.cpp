@@ -170,6 +170,9 @@ QByteArray PageView::saveSizes() const
     for (const QSplitter* const splitter : splitters_) {
         stream << splitter->saveState();
     }
+    for (const PanelCell* const cell : cells_) {
+        stream << qint32(cell->panel()->zoom());
+    }
     return bytes;
 }
 
@@ -180,6 +183,15 @@ void PageView::restoreSizes(const QByteArray& sizes)
         QByteArray state;
         stream >> state;
         splitter->restoreState(state);
+    }
+    QList<qint32> zooms(cells_.size());
+    for (qint32& zoom : zooms) {
+        stream >> zoom;
+    }
+    if (stream.status() == QDataStream::Ok && stream.atEnd()) {
+        for (qsizetype i = 0; i < cells_.size(); ++i) {
+            cells_[i]->panel()->setZoom(zooms[i]);
+        }
     }
 }
 

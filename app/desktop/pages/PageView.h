@@ -23,7 +23,7 @@ class PageView : public QWidget
 public:
     PageView(Workspace& workspace, present::PageLayout layout, QWidget* parent);
 
-    /// The layout as the user has changed it: choices in the panels and sizes of the cells.
+    /// The layout with what the user has chosen in the panels since.
     [[nodiscard]] present::PageLayout layout() const;
     [[nodiscard]] const QList<PanelCell*>& cells() const
     {
@@ -33,7 +33,8 @@ public:
     [[nodiscard]] PanelCell* currentCell() const;
     /// Moves the focus `by` cells on.
     void focusCell(int by);
-    /// Sizes of all splitters, and back; sizes of another layout are left aside.
+    /// Sizes of all splitters and of the letters of each cell, and back; those of another layout
+    /// are left aside.
     [[nodiscard]] QByteArray saveSizes() const;
     void restoreSizes(const QByteArray& sizes);
 

@@ -100,6 +100,7 @@ std::vector<std::string> restorePages(PageStrip& pages)
     QSettings& state = stateOfWindow();
     std::vector<present::PageLayout> layouts;
     std::vector<QByteArray> sizes;
+    int current = state.value("window/page").toInt();
     const int count = std::min(state.beginReadArray("pages"), kMostPages);
     for (int i = 0; i < count; ++i) {
         state.setArrayIndex(i);
@@ -109,6 +110,7 @@ std::vector<std::string> restorePages(PageStrip& pages)
             sizes.push_back(state.value("sizes").toByteArray());
         } else {
             problems.push_back("a page of the last run: " + layout.error().text());
+            current -= int(layouts.size()) < current ? 1 : 0;
         }
     }
     state.endArray();
@@ -119,7 +121,7 @@ std::vector<std::string> restorePages(PageStrip& pages)
     for (std::size_t i = 0; i < sizes.size(); ++i) {
         pages.setSizes(int(i), sizes[i]);
     }
-    pages.show(state.value("window/page").toInt());
+    pages.show(current);
     return problems;
 }
 
