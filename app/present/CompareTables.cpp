@@ -1,6 +1,7 @@
 #include "app/present/CompareTables.h"
 
 #include "analysis/VargaNames.h"
+#include "app/present/ChangedPoints.h"
 #include "app/present/DashaTables.h"
 #include "app/present/TextValues.h"
 #include "app/present/VargaTables.h"
@@ -109,7 +110,7 @@ private:
     [[nodiscard]] static Cell lordCell(const ComputedChart& computed, const astro::Series& series,
                                        double moment, int level)
     {
-        const timing::DashaOptions options = timing::dashaOptions(computed.settings);
+        const timing::DashaOptions options = dashaOptions(computed);
         const int lord =
             timing::lordAtMoment(computed.chart, computed.settings, options, series, moment, level);
         if (lord == timing::kNoLord) {

@@ -5,6 +5,7 @@
 #include "core/Chart.h"
 #include "core/Settings.h"
 
+#include <bitset>
 #include <optional>
 #include <string>
 
@@ -19,6 +20,7 @@ struct ComputedChart
     std::string positionsFile; ///< the file of a chart of bare positions, which has no moment
     std::optional<core::VedicDay> day;      ///< the day running; none near the poles
     std::optional<double> upperCulmination; ///< of the Sun on the civil date, local hours
+    std::bitset<std::size_t(core::kPointCount)> changed; ///< points with a longitude of the user's
 };
 
 /// Computes and analyses the chart from its birth data under its settings. Without a place there

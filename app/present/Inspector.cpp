@@ -4,6 +4,7 @@
 #include "analysis/NakshatraLords.h"
 #include "analysis/VargaNames.h"
 #include "analysis/Vargas.h"
+#include "app/present/ChangedPoints.h"
 #include "app/present/DashaTables.h"
 #include "app/present/EphemerisTables.h"
 #include "app/present/EventTables.h"
@@ -215,7 +216,9 @@ Inspection inspect(const TableSource& source, const Link& about)
     const int varga = core::ClampRange(0, core::kVargaCount - 1, about.varga);
     switch (about.subject) {
     case Subject::Point:
-        return {pointLabel(about.index), inspecting::pointSections(source, about.index)};
+        return {pointLabel(about.index) +
+                    (source.computed.changed[std::size_t(about.index)] ? L", changed by you" : L""),
+                inspecting::pointSections(source, about.index)};
     case Subject::Sign:
         return {signTitle(about.index, varga, 0),
                 inspecting::signSections(source, about.index, varga, 0)};
@@ -241,7 +244,7 @@ Inspection inspectPeriod(const TableSource& source, const timing::DashaPeriod& p
     const core::Settings& settings = computed.settings;
     const timing::LordKind kind = dashaLordKind(settings.dashaSystem);
     Inspection inspection = {dashaPeriodName(kind, period), {}};
-    DashaResult result{timing::dashaOptions(settings), {}, {}, {}, {}, {}};
+    DashaResult result{dashaOptions(computed), {}, {}, {}, {}, {}};
     core::Result<timing::Dasha> dasha =
         timing::dashaOf(computed.chart, settings, result.options, source.series);
     if (dasha) {

@@ -1,5 +1,6 @@
 #include "app/present/Report.h"
 
+#include "app/present/ChangedPoints.h"
 #include "app/present/ReportSections.h"
 #include "app/present/TextValues.h"
 #include "astro/Ayanamsa.h"
@@ -60,6 +61,9 @@ std::vector<std::wstring> reportHead(const ComputedChart& computed)
                    core::fromFileBytes(astro::selectedRow(computed.settings).nameText()) + L"  " +
                    (chart.hasMoment ? core::FormatDMS(chart.ayanamsa, 1)
                                     : std::wstring(L"not computed without a moment")));
+    if (computed.changed.any()) {
+        head.push_back(changedPointsLine(computed));
+    }
     std::wstring houses =
         L"Houses " + (chart.houseSystem >= 0 ? choiceText("houseSystem", chart.houseSystem)
                                              : std::wstring(L"not computed"));

@@ -2,6 +2,7 @@
 
 #include "analysis/Ashtakavarga.h"
 #include "app/present/AshtakavargaTables.h"
+#include "app/present/ChangedPoints.h"
 #include "app/present/ChartTables.h"
 #include "app/present/CompareTables.h"
 #include "app/present/DashaTables.h"
@@ -64,7 +65,7 @@ Made mainVargaSigns(const TableSource& source)
 core::Result<DashaResult> chosenDasha(const TableSource& source)
 {
     const core::Settings& settings = source.computed.settings;
-    DashaResult result{timing::dashaOptions(settings), {}, {}, {}, {}, {}};
+    DashaResult result{dashaOptions(source.computed), {}, {}, {}, {}, {}};
     core::Result<timing::Dasha> dasha =
         timing::dashaOf(source.computed.chart, settings, result.options, source.series);
     if (!dasha) {
@@ -121,7 +122,7 @@ Made conditionalDashas(const TableSource& source)
     const core::Settings& settings = source.computed.settings;
     std::vector<int> systems;
     for (const int system : timing::kConditionalDashas) {
-        if (timing::dashaApplies(source.computed.chart, settings, timing::dashaOptions(settings),
+        if (timing::dashaApplies(source.computed.chart, settings, dashaOptions(source.computed),
                                  system)) {
             systems.push_back(system);
         }
@@ -285,6 +286,15 @@ const std::array<TableInfo, 65> kTables = {{
 std::span<const TableInfo> allTables()
 {
     return kTables;
+}
+
+core::Result<Table> TableInfo::make(const TableSource& source) const
+{
+    core::Result<Table> made = maker(source);
+    if (made) {
+        markChangedPoints(made.value(), source.computed);
+    }
+    return made;
 }
 
 const TableInfo* findTable(std::string_view id)

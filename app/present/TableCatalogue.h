@@ -35,7 +35,10 @@ struct TableInfo
 {
     std::string_view id;
     std::wstring_view meaning; ///< one line for lists and help
-    std::function<core::Result<Table>(const TableSource&)> make;
+    std::function<core::Result<Table>(const TableSource&)> maker;
+
+    /// The table, with a mark at points whose positions the user changed.
+    [[nodiscard]] core::Result<Table> make(const TableSource& source) const;
 };
 
 /// All tables in the order in which they are listed.

@@ -16,10 +16,8 @@ DiagramContents diagramContents(const Workspace& workspace, const present::Panel
     contents.varga = panel.varga;
     contents.style = panel.style.value_or(present::DiagramStyle(settings.diagramStyle));
     contents.options = present::diagramOptionsOf(settings);
-    if (contents.chart && contents.chart == workspace.chart()) {
-        for (const auto& [point, longitude] : workspace.changedPoints()) {
-            contents.options.changed.set(std::size_t(point));
-        }
+    if (contents.chart) {
+        contents.options.changed = contents.chart->changed;
     }
     contents.note = panel.chart == present::PanelChart::Second
                         ? QCoreApplication::translate("Diagram", "No second chart is open.")

@@ -127,6 +127,11 @@ TChangePointDlg::TChangePointDlg(TKSVform1& window, QWidget* parent)
     box->addStretch(1);
     box->addWidget(buttons);
     setMinimumWidth(fontMetrics().averageCharWidth() * 60);
+    // As they stand, not as they were made.
+    setTabOrder(point_, degrees_);
+    setTabOrder(degrees_, minutes_);
+    setTabOrder(minutes_, sign_);
+    setTabOrder(sign_, reset_);
 
     connect(point_, &QComboBox::currentIndexChanged, this, &TChangePointDlg::showPoint);
     connect(sign_, &QComboBox::currentIndexChanged, this, &TChangePointDlg::PositionChanged);
@@ -157,6 +162,11 @@ double TChangePointDlg::ownLongitude(int point) const
                                     : core::at(own_->chart.longitude, point);
 }
 
+int TChangePointDlg::typedMinutes() const
+{
+    return sign_->currentIndex() * kMinutesOfSign + degrees_->value() * 60 + minutes_->value();
+}
+
 void TChangePointDlg::showPoint()
 {
     const auto changed = changed_.find(point());
@@ -168,6 +178,7 @@ void TChangePointDlg::showPoint()
     sign_->setCurrentIndex(std::min(minutes / kMinutesOfSign, 11));
     degrees_->setValue(minutes % kMinutesOfSign / 60);
     minutes_->setValue(minutes % 60);
+    shownMinutes_ = typedMinutes();
     showing_ = false;
     reset_->setEnabled(changed != changed_.end());
 }
@@ -184,8 +195,13 @@ void TChangePointDlg::PositionChanged()
     if (showing_) {
         return;
     }
-    const double longitude =
-        sign_->currentIndex() * 30.0 + degrees_->value() + minutes_->value() / kMinutesOfDegree;
+    const int minutes = typedMinutes();
+    // Enter in a number tells of a change where there is none, which would cut off the seconds.
+    if (minutes == shownMinutes_) {
+        return;
+    }
+    shownMinutes_ = minutes;
+    const double longitude = minutes / kMinutesOfDegree;
     changed_[point()] = longitude;
     if (point() == core::kRahu || point() == core::kKetu) {
         changed_[opposite(point())] = core::Normalize360(longitude + 180.0);

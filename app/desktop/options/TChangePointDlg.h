@@ -28,6 +28,7 @@ private:
     void showPoint();
     void showChanged();
     [[nodiscard]] int point() const;
+    [[nodiscard]] int typedMinutes() const;
     [[nodiscard]] double ownLongitude(int point) const;
     void PositionChanged();
     void ResetButtonClick();
@@ -46,6 +47,7 @@ private:
     QPushButton* reset_;
     QPushButton* resetAll_;
     bool showing_ = false;
+    int shownMinutes_ = 0; ///< of the circle
 };
 
 } // namespace kestrav::desktop

@@ -5,6 +5,7 @@
 #include "app/desktop/shell/Convert.h"
 #include "app/desktop/shell/Ks6main.h"
 #include "app/desktop/shell/Theme.h"
+#include "app/present/ChangedPoints.h"
 #include "app/present/DashaTables.h"
 #include "app/present/TextValues.h"
 #include "astro/Ayanamsa.h"
@@ -179,8 +180,7 @@ void StatusLine::showDasha()
     if (!shown || !shown->chart.hasMoment) {
         return;
     }
-    timing::DashaOptions options = timing::dashaOptions(shown->settings);
-    options.sunModified = workspace.changedPoints().contains(core::kSun);
+    const timing::DashaOptions options = present::dashaOptions(*shown);
     const auto dasha =
         timing::dashaOf(shown->chart, shown->settings, options, workspace.data()->series);
     if (!dasha) {

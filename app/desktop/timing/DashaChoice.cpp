@@ -51,8 +51,7 @@ timing::DashaOptions DashaChoice::options(const ChartPointer& chart) const
 {
     timing::DashaOptions options = timing::dashaOptions(workspace_.settings());
     options.system = system();
-    options.sunModified =
-        chart == workspace_.chart() && workspace_.changedPoints().contains(core::kSun);
+    options.sunModified = chart->changed[core::kSun];
     return options;
 }
 
