@@ -1,7 +1,6 @@
 #include "app/present/EventTables.h"
 
 #include "analysis/VargaNames.h"
-#include "app/present/ChangedPoints.h"
 #include "app/present/DashaTables.h"
 #include "app/present/LifeBar.h"
 #include "app/present/PersonTables.h"
@@ -49,7 +48,8 @@ std::vector<DatedEvent> usableEvents(const core::Chart& chart)
 
 core::Result<timing::Dasha> dashaOfChart(const ComputedChart& computed, const astro::Series& series)
 {
-    return timing::dashaOf(computed.chart, computed.settings, dashaOptions(computed), series);
+    return timing::dashaOf(computed.chart, computed.settings,
+                           timing::dashaOptions(computed.settings), series);
 }
 
 // The lord of a level at a moment.
@@ -218,7 +218,7 @@ Table eventTransitsTable(const ComputedChart& computed, const astro::Series& ser
 }
 
 TrialTables trialTables(const ComputedChart& computed, const astro::Series& series,
-                        const TrialTimes& times)
+                        const TrialTimes& times, const data::LongWork& work)
 {
     TrialTables tables;
     tables.ascendants = {"trial-ascendants",
@@ -245,6 +245,14 @@ TrialTables trialTables(const ComputedChart& computed, const astro::Series& seri
     const int steps = core::ClampRange(0, kMostSteps, times.steps);
     const int levels = core::ClampRange(1, timing::kDashaLevels, times.levels);
     for (int step = -steps; step <= steps; ++step) {
+        if (work.progress) {
+            work.progress(std::size_t(step + steps), std::size_t(2 * steps + 1));
+        }
+        if (work.cancelled()) {
+            tables.ascendants.rows.clear();
+            tables.lords.rows.clear();
+            return tables;
+        }
         const double seconds = step * times.seconds;
         const ComputedChart trial = shifted(computed, seconds, context);
         tables.ascendants.add(ascendantRow(trial, seconds));

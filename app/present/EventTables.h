@@ -5,6 +5,7 @@
 #include "app/present/ComputedChart.h"
 #include "app/present/Table.h"
 #include "astro/Engine.h"
+#include "data/LongWork.h"
 
 namespace kestrav::present
 {
@@ -35,8 +36,9 @@ struct TrialTables
 };
 
 /// The tables of a chart with a moment and a place; without them they have only notes. Cells that
-/// differ from those of the given time are marked with "*".
+/// differ from those of the given time are marked with "*". Without rows when the work was
+/// cancelled.
 [[nodiscard]] TrialTables trialTables(const ComputedChart& computed, const astro::Series& series,
-                                      const TrialTimes& times);
+                                      const TrialTimes& times, const data::LongWork& work = {});
 
 } // namespace kestrav::present

@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 
 namespace kestrav::present
@@ -156,6 +157,19 @@ TEST(EventTables, TriedTimesAreChartsOfThoseTimes)
     // The Moon's dasha at birth does not feel a second.
     const TrialTables close = trialTables(computed, tests::seriesForTests(), {1, 1.0, 2});
     EXPECT_EQ(close.lords.rows[0][3].text, L"Sat-Ven");
+    // It is stopped between two times.
+    std::size_t tried = 0;
+    std::atomic<bool> stop = false;
+    data::LongWork work;
+    work.cancel = &stop;
+    work.progress = [&](std::size_t done, std::size_t total) {
+        EXPECT_EQ(total, 201U);
+        tried = done;
+        stop = done == 3;
+    };
+    EXPECT_TRUE(trialTables(computed, tests::seriesForTests(), {100, 60.0, 3}, work)
+                    .ascendants.rows.empty());
+    EXPECT_EQ(tried, 3U);
     ComputedChart nowhere = computed;
     nowhere.hasPlace = false;
     EXPECT_TRUE(

@@ -136,8 +136,8 @@ void TrialTimesPanel::refresh()
     times.seconds = step_->value() * (unit_->currentIndex() == 1 ? kSecondsOfMinute : 1.0);
     times.levels = levels_->value();
     work_.start(
-        [shown, times, data = workspace().data()](const WorkHandle& /*handle*/) {
-            return present::trialTables(*shown, data->series, times);
+        [shown, times, data = workspace().data()](const WorkHandle& handle) {
+            return present::trialTables(*shown, data->series, times, handle.longWork());
         },
         [this](const present::TrialTables& tables) { showTables(tables); });
 }
