@@ -16,11 +16,17 @@ bool changeRule(Yoga& yoga, std::string_view rule, core::Messages& messages)
     if (!tellsMatchingBrackets(rule, messages)) {
         return false;
     }
-    const core::Result<YogaRule> read = YogaRule::read(rule);
-    yoga.rule = rule;
-    yoga.options = optionsOfRule(read.value());
-    yoga.vargas = vargasOfRule(read.value());
+    setRule(yoga, rule);
     return true;
+}
+
+void setRule(Yoga& yoga, std::string_view rule)
+{
+    yoga.rule = rule;
+    if (const core::Result<YogaRule> read = YogaRule::read(rule)) {
+        yoga.options = optionsOfRule(read.value());
+        yoga.vargas = vargasOfRule(read.value());
+    }
 }
 
 bool deleteYoga(YogaFile& file, std::size_t index, core::Messages& messages)

@@ -20,6 +20,9 @@ inline constexpr wchar_t kDeleteYoga[] = L"Delete Yoga from List?";
 /// brackets do not match is told, and the yoga stays as it is.
 [[nodiscard]] bool changeRule(Yoga& yoga, std::string_view rule, core::Messages& messages);
 
+/// The same without a word about brackets, which need not match while a rule is under work.
+void setRule(Yoga& yoga, std::string_view rule);
+
 /// Removes a yoga when the user agrees.
 bool deleteYoga(YogaFile& file, std::size_t index, core::Messages& messages);
 

@@ -6,6 +6,7 @@
 #include "app/desktop/yogas/RuleEditor.h"
 #include "app/desktop/yogas/TYogaConditionDlg.h"
 #include "app/desktop/yogas/YogaDesk.h"
+#include "app/desktop/yogas/YogaFilePaths.h"
 #include "app/desktop/yogas/YogaTreeModel.h"
 #include "app/desktop/yogas/Ytyogatree.h"
 #include "data/DatabaseMessages.h"

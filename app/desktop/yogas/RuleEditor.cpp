@@ -169,6 +169,11 @@ std::vector<present::RuleLine> RuleEditor::lines() const
     return present::ruleLines(edit_.rule(), outcome_ ? &*outcome_ : nullptr);
 }
 
+QString RuleEditor::typedRule() const
+{
+    return text_->isModified() ? text_->text() : toQt(core::fromFileBytes(edit_.rule()));
+}
+
 void RuleEditor::fill()
 {
     filling_ = true;

@@ -39,6 +39,8 @@ public:
     {
         RuleEditEditingFinished();
     }
+    /// The rule with what is being typed as text.
+    [[nodiscard]] QString typedRule() const;
     [[nodiscard]] std::vector<present::RuleLine> lines() const;
     /// The commands on the rule, for menus.
     [[nodiscard]] const QList<QAction*>& commands() const

@@ -41,11 +41,13 @@ void addHeading(QComboBox& box, const QString& heading)
     item->setFont(bold);
 }
 
+const QString kBeforeMeaning = QStringLiteral(" \u2013 ");
+
 // "Jup - Jupiter", with the word itself as data.
 void addChoice(QComboBox& box, const present::ChoiceWord& choice)
 {
     const QString word = toQt(choice.word);
-    box.addItem(QStringLiteral("%1 \u2013 %2").arg(word, toQt(choice.meaning)), word);
+    box.addItem(word + kBeforeMeaning + toQt(choice.meaning), word);
 }
 
 // Whether a quantifier can stand before the word.
@@ -149,10 +151,22 @@ void PointChooser::addStep(const QString& step)
     word_->setEditText(step + word_->currentText());
 }
 
-// A completed entry still shows its meaning.
+// A completed entry still shows its meaning, and whoever types may know only that.
 QString PointChooser::typed() const
 {
-    return word_->currentText().section(QStringLiteral(" \u2013 "), 0, 0).trimmed();
+    const QString text = word_->currentText().section(kBeforeMeaning, 0, 0).trimmed();
+    if (word_->findData(text) >= 0) {
+        return text;
+    }
+    for (int i = 0; i < word_->count(); ++i) {
+        const QString word = word_->itemData(i).toString();
+        const QString meaning = word_->itemText(i).section(kBeforeMeaning, 1);
+        if (!word.isEmpty() && (word.compare(text, Qt::CaseInsensitive) == 0 ||
+                                meaning.compare(text, Qt::CaseInsensitive) == 0)) {
+            return word;
+        }
+    }
+    return text;
 }
 
 std::string PointChooser::words() const

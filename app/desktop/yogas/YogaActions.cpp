@@ -5,6 +5,7 @@
 #include "app/desktop/research/ResearchDesk.h"
 #include "app/desktop/shell/Ks6main.h"
 #include "app/desktop/shell/TMessages.h"
+#include "app/desktop/yogas/YogaDrafts.h"
 #include "app/desktop/yogas/YogaCommands.h"
 #include "app/desktop/yogas/YogaDesk.h"
 #include "app/desktop/yogas/Ytyogatree.h"
@@ -51,13 +52,14 @@ YogaActions::YogaActions(TKSVform1& window)
         [this] { commands_->ImportButtonClick(); });
     add({"SortYogasAction", tr("So&rt File"), {}, tr("Sorts the file of the selected yoga")},
         [this] { commands_->SortButtonClick(); });
-    if (auto* const refreshing = window.findChild<ResearchActions*>()) {
-        connect(refreshing, &ResearchActions::refreshed, this,
-                [this] { ResearchDesk::of(window_.workspace()).read(); });
-    }
-    window.addCloseQuestion([this] {
+    auto* const drafts = new YogaDrafts(window);
+    window.addCloseQuestion([this, drafts] {
         TMessages messages;
-        return YogaDesk::of(window_.workspace()).mayClose(messages);
+        if (!YogaDesk::of(window_.workspace()).mayClose(messages)) {
+            return false;
+        }
+        drafts->drop();
+        return true;
     });
 }
 

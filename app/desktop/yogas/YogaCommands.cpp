@@ -5,6 +5,7 @@
 #include "app/desktop/shell/TMessages.h"
 #include "app/desktop/shell/Workspace.h"
 #include "app/desktop/yogas/YogaDesk.h"
+#include "app/desktop/yogas/YogaFilePaths.h"
 
 #include <QWidget>
 

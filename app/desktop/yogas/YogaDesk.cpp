@@ -2,9 +2,7 @@
 
 #include "app/desktop/shell/Convert.h"
 #include "app/desktop/shell/Workspace.h"
-#include "core/Locations.h"
-#include "data/DatabaseMessages.h"
-#include "yoga/CustomYogaList.h"
+#include "app/desktop/yogas/YogaFilePaths.h"
 #include "yoga/RuleEdit.h"
 #include "yoga/YogaListEdit.h"
 
@@ -13,7 +11,6 @@
 #include <QUndoStack>
 
 #include <algorithm>
-#include <system_error>
 #include <utility>
 
 namespace kestrav::desktop
@@ -23,44 +20,6 @@ namespace
 {
 
 namespace fs = std::filesystem;
-
-constexpr int kMostSteps = 200;
-
-bool isPlainList(const fs::path& path)
-{
-    return path.extension() == ".txt";
-}
-
-// A file that does not exist yet has no canonical name.
-fs::path plainPath(const fs::path& path)
-{
-    std::error_code problem;
-    fs::path plain = fs::weakly_canonical(path, problem);
-    return problem ? path : plain;
-}
-
-void setRule(yoga::Yoga& yoga, std::string_view rule)
-{
-    yoga.rule = rule;
-    if (const auto read = yoga::YogaRule::read(rule)) {
-        yoga.options = yoga::optionsOfRule(read.value());
-        yoga.vargas = yoga::vargasOfRule(read.value());
-    }
-}
-
-core::Result<yoga::YogaFile> readYogas(const fs::path& path)
-{
-    if (!isPlainList(path)) {
-        return yoga::readYogaFile(path);
-    }
-    const auto list = yoga::readCustomYogas(path);
-    if (!list) {
-        return list.error();
-    }
-    yoga::YogaFile file;
-    yoga::importYogas(file, list.value());
-    return file;
-}
 
 } // namespace
 
@@ -100,6 +59,7 @@ YogaDesk& YogaDesk::of(Workspace& workspace)
 YogaDesk::YogaDesk(Workspace& workspace) : QObject(&workspace), workspace_(workspace)
 {
     connect(&workspace, &Workspace::yogasChanged, this, &YogaDesk::settleSelection);
+    connect(&group_, &QUndoGroup::indexChanged, this, &YogaDesk::stepsChanged);
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
             [this](Qt::ApplicationState state) {
                 if (state == Qt::ApplicationActive) {
@@ -173,51 +133,6 @@ void YogaDesk::settleSelection()
     }
 }
 
-bool YogaDesk::isDelivered(std::size_t file) const
-{
-    if (file >= library().files().size()) {
-        return false;
-    }
-    const fs::path folder = plainPath(library().files()[file].path).parent_path();
-    const std::vector<fs::path> folders = core::searchFolders();
-    return std::any_of(folders.begin(), folders.end(), [&](const fs::path& one) {
-        return plainPath(one / yoga::kYogaFolder) == folder;
-    });
-}
-
-YogaDesk::Entry& YogaDesk::entry(const fs::path& path)
-{
-    const auto [place, isNew] = entries_.try_emplace(path);
-    Entry& made = place->second;
-    if (isNew) {
-        made.steps = std::make_unique<QUndoStack>();
-        made.steps->setUndoLimit(kMostSteps);
-        made.stamp = data::stampOf(path);
-        group_.addStack(made.steps.get());
-        connect(made.steps.get(), &QUndoStack::cleanChanged, this, &YogaDesk::modifiedChanged);
-    }
-    return made;
-}
-
-bool YogaDesk::isModified(std::size_t file) const
-{
-    if (file >= library().files().size()) {
-        return false;
-    }
-    const auto found = entries_.find(library().files()[file].path);
-    return found != entries_.end() && (found->second.beyondUndo || !found->second.steps->isClean());
-}
-
-bool YogaDesk::anyModified() const
-{
-    for (std::size_t file = 0; file < library().files().size(); ++file) {
-        if (isModified(file)) {
-            return true;
-        }
-    }
-    return false;
-}
-
 QUndoStack* YogaDesk::steps()
 {
     return selected_ && !isDelivered(selected_->file)
@@ -238,176 +153,6 @@ void YogaDesk::redo()
     commitFields();
     if (QUndoStack* const stack = steps()) {
         stack->redo();
-    }
-}
-
-std::optional<std::size_t> YogaDesk::indexOf(const fs::path& path) const
-{
-    const auto& files = library().files();
-    const fs::path plain = plainPath(path);
-    for (std::size_t i = 0; i < files.size(); ++i) {
-        if (files[i].path == path || plainPath(files[i].path) == plain) {
-            return i;
-        }
-    }
-    return std::nullopt;
-}
-
-void YogaDesk::put(const fs::path& path, yoga::YogaFile file)
-{
-    auto changed = std::make_shared<yoga::YogaLibrary>(library());
-    changed->store(path, std::move(file));
-    workspace_.setYogas(std::move(changed));
-}
-
-bool YogaDesk::open(const fs::path& path)
-{
-    const std::optional<std::size_t> loaded = indexOf(path);
-    if (loaded && isModified(*loaded)) {
-        workspace_.tellProblem(
-            tr("%1 is open already and has changes that are not saved.").arg(toQt(path)));
-        select(yoga::YogaPlace{*loaded, 0});
-        return false;
-    }
-    core::Result<yoga::YogaFile> read = readYogas(path);
-    if (!read) {
-        workspace_.tellProblem(toQt(read.error().text()));
-        return false;
-    }
-    const fs::path kept = loaded ? library().files()[*loaded].path : plainPath(path);
-    const std::size_t count = read.value().yogas.size();
-    put(kept, std::move(read.value()));
-    Entry& opened = entry(kept);
-    opened.stamp = data::stampOf(kept);
-    opened.steps->clear();
-    select(yoga::YogaPlace{*indexOf(kept), 0});
-    workspace_.tell(tr("Opened %1 with %n yoga(s).", "", int(count)).arg(toQt(kept.filename())));
-    return true;
-}
-
-bool YogaDesk::begin(const fs::path& path, core::Messages& messages)
-{
-    if (data::stampOf(path).exists() && messages.show(data::kWarningCaption, data::kOverwrite,
-                                                      core::Buttons::YesNo) != core::Answer::Yes) {
-        return false;
-    }
-    yoga::YogaFile file;
-    file.name = path.stem().string();
-    if (const auto written = yoga::writeYogaFile(path, file); !written) {
-        workspace_.tellProblem(toQt(written.error().text()));
-        return false;
-    }
-    const fs::path kept = indexOf(path) ? library().files()[*indexOf(path)].path : plainPath(path);
-    put(kept, std::move(file));
-    Entry& begun = entry(kept);
-    begun.steps->clear();
-    begun.beyondUndo = false;
-    begun.stamp = data::stampOf(kept);
-    emit modifiedChanged();
-    // Its first yoga gives the new file something to work on.
-    return pushStep(*indexOf(kept), tr("new yoga"),
-                    [](yoga::YogaFile& changed) {
-                        changed.yogas.emplace_back().title = "New yoga";
-                        return true;
-                    }) &&
-           (select(yoga::YogaPlace{*indexOf(kept), 0}), true);
-}
-
-bool YogaDesk::save(std::size_t file, core::Messages& messages)
-{
-    return file < library().files().size() && saveAs(file, library().files()[file].path, messages);
-}
-
-bool YogaDesk::saveAs(std::size_t file, const fs::path& path, core::Messages& messages)
-{
-    commitFields();
-    const yoga::LoadedYogaFile saved = library().files()[file];
-    for (std::size_t i = 0; i < saved.file.yogas.size(); ++i) {
-        if (!yoga::tellsMatchingBrackets(saved.file.yogas[i].rule, messages)) {
-            select(yoga::YogaPlace{file, i});
-            return false;
-        }
-    }
-    const bool same = plainPath(path) == plainPath(saved.path);
-    if (same && isDelivered(file)) {
-        workspace_.tellProblem(tr("Delivered files are to read only; choose another name."));
-        return false;
-    }
-    const auto agrees = [&](const std::wstring& question) {
-        return messages.show(data::kWarningCaption, question, core::Buttons::YesNo) ==
-               core::Answer::Yes;
-    };
-    const data::FileStamp now = data::stampOf(path);
-    if (same && now.exists() && !(now == entry(saved.path).stamp) &&
-        !agrees(data::changedOnDiskQuestion(path))) {
-        return false;
-    }
-    if (!same && now.exists() && !agrees(data::kOverwrite)) {
-        return false;
-    }
-    std::error_code problem;
-    fs::create_directories(path.parent_path(), problem);
-    const core::Result<void> written =
-        isPlainList(path) ? yoga::writeCustomYogas(path, yoga::asCustomYogas(saved.file))
-                          : yoga::writeYogaFile(path, saved.file);
-    if (!written) {
-        messages.notice(data::kErrorCaption,
-                        data::kSavingError + (L" " + core::fromFileBytes(written.error().text())));
-        return false;
-    }
-    if (same) {
-        Entry& done = entry(saved.path);
-        done.stamp = data::stampOf(path);
-        done.beyondUndo = false;
-        done.steps->setClean();
-        emit modifiedChanged();
-    } else if (!isPlainList(path)) {
-        open(path);
-    }
-    workspace_.tell(tr("Saved %1").arg(toQt(path)));
-    return true;
-}
-
-bool YogaDesk::mayClose(core::Messages& messages)
-{
-    commitFields();
-    for (std::size_t file = 0; file < library().files().size(); ++file) {
-        if (!isModified(file)) {
-            continue;
-        }
-        const core::Answer answer = messages.show(
-            yoga::kQueryCaption,
-            toWide(
-                tr("Save the changes of %1?").arg(toQt(library().files()[file].path.filename()))),
-            core::Buttons::YesNoCancel);
-        if (answer == core::Answer::Cancel ||
-            (answer == core::Answer::Yes && !save(file, messages))) {
-            return false;
-        }
-    }
-    return true;
-}
-
-void YogaDesk::lookAtFiles()
-{
-    for (auto& [path, one] : entries_) {
-        const data::FileStamp now = data::stampOf(path);
-        if (!now.exists() || now == one.stamp) {
-            continue;
-        }
-        const std::optional<std::size_t> file = indexOf(path);
-        one.stamp = now;
-        if (file && isModified(*file)) {
-            workspace_.tellProblem(
-                tr("%1 was changed by another program; saving asks before it is replaced.")
-                    .arg(toQt(path.filename())));
-            one.stamp = {};
-        } else if (core::Result<yoga::YogaFile> read = readYogas(path)) {
-            one.steps->clear();
-            put(path, std::move(read.value()));
-            workspace_.tell(
-                tr("%1 was changed by another program and read again.").arg(toQt(path.filename())));
-        }
     }
 }
 
@@ -444,7 +189,7 @@ bool YogaDesk::changeYoga(const QString& text, const std::function<void(yoga::Yo
 
 bool YogaDesk::changeRule(const QString& text, std::string_view rule)
 {
-    return changeYoga(text, [&](yoga::Yoga& yoga) { setRule(yoga, rule); });
+    return changeYoga(text, [&](yoga::Yoga& changed) { yoga::setRule(changed, rule); });
 }
 
 bool YogaDesk::deleteRule()
@@ -455,7 +200,7 @@ bool YogaDesk::deleteRule()
     }
     const yoga::LoadedYogaFile& old = library().files()[selected_->file];
     yoga::YogaFile file = old.file;
-    setRule(file.yogas[selected_->yoga], {});
+    yoga::setRule(file.yogas[selected_->yoga], {});
     const fs::path path = old.path;
     // A step from before would bring the rule back.
     Entry& changed = entry(path);
@@ -464,26 +209,6 @@ bool YogaDesk::deleteRule()
     put(path, std::move(file));
     emit modifiedChanged();
     return true;
-}
-
-std::optional<std::size_t> YogaDesk::ownFile()
-{
-    const fs::path path = ownYogaPath();
-    if (const auto loaded = indexOf(path)) {
-        return loaded;
-    }
-    yoga::YogaFile file;
-    file.name = toUtf8(tr("My yogas"));
-    if (data::stampOf(path).exists()) {
-        core::Result<yoga::YogaFile> read = yoga::readYogaFile(path);
-        if (!read) {
-            workspace_.tellProblem(toQt(read.error().text()));
-            return std::nullopt;
-        }
-        file = std::move(read.value());
-    }
-    put(path, std::move(file));
-    return indexOf(path);
 }
 
 std::optional<std::size_t> YogaDesk::fileToChange()
@@ -512,6 +237,7 @@ bool YogaDesk::addYoga(yoga::Yoga yoga)
         return false;
     }
     select(yoga::YogaPlace{*file, place});
+    emit yogaAdded();
     return true;
 }
 
@@ -587,17 +313,6 @@ bool YogaDesk::copyToOwn()
     }
     select(yoga::YogaPlace{*file, place});
     return true;
-}
-
-fs::path ownYogaPath()
-{
-    const std::optional<fs::path> found = core::findFile(yoga::kOwnYogaFile);
-    return found ? *found : core::userDataFolder() / yoga::kOwnYogaFile;
-}
-
-bool openYogaFile(Workspace& workspace, const fs::path& path)
-{
-    return YogaDesk::of(workspace).open(path);
 }
 
 } // namespace kestrav::desktop

@@ -48,10 +48,14 @@ public:
     [[nodiscard]] bool isDelivered(std::size_t file) const;
     [[nodiscard]] bool isModified(std::size_t file) const;
     [[nodiscard]] bool anyModified() const;
+    /// A file with what was typed and not taken over yet, where it differs from what is on disk.
+    [[nodiscard]] std::optional<yoga::YogaFile> unsaved(std::size_t file);
     /// The steps of the file of the selected yoga; null when there is none.
     [[nodiscard]] QUndoStack* steps();
     void undo();
     void redo();
+    /// Takes over what stands in fields.
+    void commitFields();
 
     // --- Files ---------------------------------------------------------------------------------
 
@@ -66,6 +70,13 @@ public:
     bool saveAs(std::size_t file, const std::filesystem::path& path, core::Messages& messages);
     /// Asks what is to become of changed files. False when the user wants to stay.
     bool mayClose(core::Messages& messages);
+    /// Gives a file what was kept of unsaved changes, as one step. The stamp is that of the file
+    /// from which the changes came: saving asks when it has another one by now. The path is the one
+    /// under which the file is loaded.
+    std::filesystem::path restore(const std::filesystem::path& path, yoga::YogaFile file,
+                                  const data::FileStamp& stamp);
+    /// The stamp of a loaded file when it was read or written last.
+    [[nodiscard]] data::FileStamp stamp(std::size_t file);
     /// Reads files again that another program changed, unless they were changed here too; tells
     /// both.
     void lookAtFiles();
@@ -95,8 +106,14 @@ signals:
     void selectionChanged();
     /// What stands in fields and was not taken over yet has to be, before a step or a selection.
     void commitWanted();
+    /// The same, to be written into a copy of the selected yoga instead.
+    void typedWanted(yoga::Yoga* yoga);
     /// A file became changed or was saved.
     void modifiedChanged();
+    /// There are other steps to undo or to redo.
+    void stepsChanged();
+    /// A yoga was begun, and is selected.
+    void yogaAdded();
 
 private:
     class Step;
@@ -118,7 +135,6 @@ private:
     std::optional<std::size_t> fileToChange();
     void settleSelection();
     void moveTo(std::optional<yoga::YogaPlace> place);
-    void commitFields();
 
     Workspace& workspace_;
     std::optional<yoga::YogaPlace> selected_;
@@ -126,9 +142,6 @@ private:
     QUndoGroup group_;
     std::map<std::filesystem::path, Entry> entries_;
 };
-
-/// Where the user's own yogas are kept, "myyogas.ksy".
-[[nodiscard]] std::filesystem::path ownYogaPath();
 
 /// Opens a yoga file that was named on the command line or dropped.
 bool openYogaFile(Workspace& workspace, const std::filesystem::path& path);
