@@ -1,6 +1,7 @@
 #include "app/present/EventTables.h"
 
 #include "analysis/VargaNames.h"
+#include "app/present/ChangedPoints.h"
 #include "app/present/DashaTables.h"
 #include "app/present/LifeBar.h"
 #include "app/present/PersonTables.h"
@@ -48,8 +49,7 @@ std::vector<DatedEvent> usableEvents(const core::Chart& chart)
 
 core::Result<timing::Dasha> dashaOfChart(const ComputedChart& computed, const astro::Series& series)
 {
-    return timing::dashaOf(computed.chart, computed.settings,
-                           timing::dashaOptions(computed.settings), series);
+    return timing::dashaOf(computed.chart, computed.settings, dashaOptions(computed), series);
 }
 
 // The lord of a level at a moment.
