@@ -2,9 +2,13 @@
 
 #include "app/desktop/help/HelpTopics.h"
 
+#include <QDir>
+#include <QFile>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QTextBrowser>
+#include <QTextDocument>
 #include <QToolButton>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -13,7 +17,8 @@ namespace kestrav::desktop
 {
 
 THelpForm::THelpForm(QWidget* parent)
-    : QDialog(parent), browser_(new QTextBrowser(this)), find_(new QLineEdit(this))
+    : QDialog(parent), browser_(new QTextBrowser(this)), find_(new QLineEdit(this)),
+      missing_(new QLabel(tr("No page has these words."), this))
 {
     setObjectName(QStringLiteral("THelpForm"));
     setWindowTitle(tr("Help"));
@@ -22,8 +27,8 @@ THelpForm::THelpForm(QWidget* parent)
     browser_->setSearchPaths({helpFolder()});
     browser_->setFrameShape(QFrame::NoFrame);
     find_->setObjectName(QStringLiteral("FindEdit"));
-    find_->setAccessibleName(tr("Find in this page"));
-    find_->setPlaceholderText(tr("Find in this page"));
+    find_->setAccessibleName(tr("Find in the help"));
+    find_->setPlaceholderText(tr("Find in the help"));
     find_->setClearButtonEnabled(true);
     const auto button = [this](const QString& text, const QString& tip, const char* name,
                                auto handler) {
@@ -42,12 +47,17 @@ THelpForm::THelpForm(QWidget* parent)
                           [this] { browser_->forward(); }));
     bar->addWidget(button(tr("Contents"), tr("Contents"), "ContentsButton",
                           [this] { showTopic(QStringLiteral("index.html")); }));
+    missing_->setObjectName(QStringLiteral("MissingLabel"));
+    missing_->setForegroundRole(QPalette::PlaceholderText);
+    missing_->hide();
     bar->addStretch(1);
+    bar->addWidget(missing_);
     bar->addWidget(find_);
     auto* const box = new QVBoxLayout(this);
     box->addLayout(bar);
     box->addWidget(browser_, 1);
     connect(find_, &QLineEdit::returnPressed, this, &THelpForm::FindEditReturnPressed);
+    connect(find_, &QLineEdit::textChanged, missing_, &QWidget::hide);
     connect(browser_, &QTextBrowser::sourceChanged, this, [this] {
         const QString title = browser_->documentTitle();
         setWindowTitle(title.isEmpty() ? tr("Help") : tr("Help: %1").arg(title));
@@ -76,11 +86,32 @@ QString THelpForm::page() const
 
 void THelpForm::FindEditReturnPressed()
 {
-    // From the end the search goes on at the beginning.
-    if (!browser_->find(find_->text())) {
-        browser_->moveCursor(QTextCursor::Start);
-        browser_->find(find_->text());
+    // From the end of the page the search goes on on the next one that has the words.
+    if (find_->text().isEmpty() || browser_->find(find_->text()) || findOnOtherPages()) {
+        return;
     }
+    browser_->moveCursor(QTextCursor::Start);
+    missing_->setVisible(!browser_->find(find_->text()));
+}
+
+bool THelpForm::findOnOtherPages()
+{
+    const QStringList pages = QDir(helpFolder()).entryList({QStringLiteral("*.html")});
+    const qsizetype here = pages.indexOf(page());
+    for (qsizetype i = 1; i < pages.size(); ++i) {
+        const QString name = pages[(here + i) % pages.size()];
+        QFile file(helpFolder() + QLatin1Char('/') + name);
+        if (!file.open(QIODevice::ReadOnly)) {
+            continue;
+        }
+        QTextDocument words;
+        words.setHtml(QString::fromUtf8(file.readAll()));
+        if (!words.find(find_->text()).isNull()) {
+            showTopic(name);
+            return browser_->find(find_->text());
+        }
+    }
+    return false;
 }
 
 } // namespace kestrav::desktop

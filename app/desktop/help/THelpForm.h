@@ -3,6 +3,7 @@
 
 #include <QDialog>
 
+class QLabel;
 class QLineEdit;
 class QTextBrowser;
 
@@ -23,9 +24,11 @@ public:
 
 private:
     void FindEditReturnPressed();
+    bool findOnOtherPages();
 
     QTextBrowser* browser_;
     QLineEdit* find_;
+    QLabel* missing_; ///< tells that no page has what is looked for
 };
 
 } // namespace kestrav::desktop

@@ -1,5 +1,6 @@
 #include "app/desktop/help/TShortcutsDlg.h"
 
+#include "app/desktop/help/CommandNames.h"
 #include "app/desktop/shell/Ks6main.h"
 #include "app/desktop/shell/StateFile.h"
 
@@ -42,10 +43,13 @@ TShortcutsDlg::TShortcutsDlg(TKSVform1& window) : QDialog(&window)
     auto* const table = new QTableWidget(this);
     table->setObjectName(QStringLiteral("KeyTable"));
     table->setAccessibleName(tr("Commands with their keys"));
-    table->setColumnCount(2);
-    table->setHorizontalHeaderLabels({tr("Command"), tr("Keys")});
+    table->setColumnCount(3);
+    table->setHorizontalHeaderLabels({tr("Command"), tr("Menu"), tr("Keys")});
+    table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
-    table->horizontalHeader()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+    table->horizontalHeader()->setHighlightSections(false);
+    table->setShowGrid(false);
+    table->setAlternatingRowColors(true);
     table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() * 3 / 2);
     table->verticalHeader()->hide();
@@ -59,10 +63,10 @@ TShortcutsDlg::TShortcutsDlg(TKSVform1& window) : QDialog(&window)
     auto* const clash = new QLabel(this);
     clash->setObjectName(QStringLiteral("ClashLabel"));
     clash->setWordWrap(true);
-    auto* const standard = new QPushButton(tr("&Standard Keys"), this);
+    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    auto* const standard = buttons->addButton(tr("&Standard Keys"), QDialogButtonBox::ResetRole);
     standard->setObjectName(QStringLiteral("StandardButton"));
     standard->setAutoDefault(false);
-    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     auto* const form = new QFormLayout;
     form->addRow(tr("&New keys for the command:"), keys);
     auto* const box = new QVBoxLayout(this);
@@ -70,17 +74,22 @@ TShortcutsDlg::TShortcutsDlg(TKSVform1& window) : QDialog(&window)
     box->addWidget(table, 1);
     box->addLayout(form);
     box->addWidget(clash);
-    box->addWidget(standard, 0, Qt::AlignLeft);
     box->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
-    const QList<QAction*> commands = window.commands();
+    const QList<CommandName> names = commandNames(window);
+    QList<QAction*> commands;
+    for (const CommandName& name : names) {
+        commands.push_back(name.action);
+    }
     table->setRowCount(int(commands.size()));
-    const auto showRow = [table, commands](int row) {
-        const QAction& action = *commands[row];
-        table->setItem(row, 0, new QTableWidgetItem(QString(action.text()).remove('&')));
-        table->setItem(row, 1,
-                       new QTableWidgetItem(action.shortcut().toString(QKeySequence::NativeText)));
+    const auto showRow = [table, names](int row) {
+        const CommandName& command = names[row];
+        const QString pressed = command.action->shortcut().toString(QKeySequence::NativeText);
+        int column = 0;
+        for (const QString& text : {command.name, command.menu, pressed}) {
+            table->setItem(row, column++, new QTableWidgetItem(text));
+        }
     };
     for (int row = 0; row < table->rowCount(); ++row) {
         showRow(row);
@@ -88,7 +97,8 @@ TShortcutsDlg::TShortcutsDlg(TKSVform1& window) : QDialog(&window)
     table->setCurrentCell(0, 0);
     connect(filter, &QLineEdit::textChanged, table, [table](const QString& text) {
         for (int row = 0; row < table->rowCount(); ++row) {
-            const QString words = table->item(row, 0)->text() + ' ' + table->item(row, 1)->text();
+            const QString words = table->item(row, 0)->text() + ' ' + table->item(row, 1)->text() +
+                                  ' ' + table->item(row, 2)->text();
             table->setRowHidden(row, !words.contains(text, Qt::CaseInsensitive));
         }
     });
@@ -125,7 +135,7 @@ TShortcutsDlg::TShortcutsDlg(TKSVform1& window) : QDialog(&window)
         }
         clash->clear();
     });
-    resize(fontMetrics().height() * 30, fontMetrics().height() * 32);
+    resize(fontMetrics().height() * 38, fontMetrics().height() * 32);
     filter->setFocus();
 }
 

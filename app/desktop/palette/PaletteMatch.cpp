@@ -11,6 +11,7 @@ namespace
 constexpr int kLetter = 10;
 constexpr int kWordStart = 30;
 constexpr int kFollows = 20;
+constexpr int kWhole = 1000;
 constexpr int kSpread = 1; // lost for each letter that is passed over
 constexpr int kLongest = 40;
 
@@ -60,7 +61,8 @@ std::optional<int> paletteMatch(const QString& typed, const QString& entry)
     if (best < 0) {
         return std::nullopt;
     }
-    return best - int(std::min<qsizetype>(text.size(), kLongest)) / 4;
+    const bool whole = QString(text).remove(QLatin1Char(' ')) == letters;
+    return best + (whole ? kWhole : 0) - int(std::min<qsizetype>(text.size(), kLongest)) / 4;
 }
 
 } // namespace kestrav::desktop

@@ -2,18 +2,22 @@
 
 #include "analysis/VargaNames.h"
 #include "app/desktop/database/OpenDatabase.h"
+#include "app/desktop/help/CommandNames.h"
 #include "app/desktop/options/SettingRows.h"
 #include "app/desktop/pages/PageStrip.h"
 #include "app/desktop/palette/PaletteMatch.h"
 #include "app/desktop/panels/PanelWidget.h"
 #include "app/desktop/shell/Convert.h"
 #include "app/desktop/shell/Ks6main.h"
+#include "app/desktop/shell/Theme.h"
 #include "core/PointNames.h"
 
 #include <QAction>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPainter>
+#include <QStyledItemDelegate>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -29,16 +33,60 @@ namespace
 constexpr std::size_t kMostShown = 60;
 constexpr int kLongName = 4;
 constexpr int kEntryRole = Qt::UserRole;
+constexpr int kKindRole = Qt::UserRole + 1;
+constexpr int kKeysRole = Qt::UserRole + 2;
+
+// A row: what is found on the left, of what kind and with which keys in columns on the right.
+class EntryDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override
+    {
+        QStyleOptionViewItem ground = option;
+        initStyleOption(&ground, index);
+        ground.text.clear();
+        ground.widget->style()->drawControl(QStyle::CE_ItemViewItem, &ground, painter,
+                                            ground.widget);
+        const QFontMetrics& metrics = option.fontMetrics;
+        const int gap = metrics.height() / 2;
+        QRect room = option.rect.adjusted(gap / 2, 0, -gap / 2, 0);
+        const bool selected = option.state.testFlag(QStyle::State_Selected);
+        const QColor words =
+            option.palette.color(selected ? QPalette::HighlightedText : QPalette::Text);
+        painter->save();
+        painter->setPen(selected ? words : themeColour(ThemeRole::Quiet));
+        for (const auto& [role, letters] : {std::pair(kKeysRole, 17), std::pair(kKindRole, 11)}) {
+            const int width = metrics.averageCharWidth() * letters;
+            const QRect column(room.right() - width + 1, room.top(), width, room.height());
+            painter->drawText(
+                column, Qt::AlignVCenter | Qt::AlignRight,
+                metrics.elidedText(index.data(role).toString(), Qt::ElideRight, width));
+            room.setRight(column.left() - gap);
+        }
+        painter->setPen(words);
+        painter->drawText(
+            room, Qt::AlignVCenter | Qt::AlignLeft,
+            metrics.elidedText(index.data().toString(), Qt::ElideRight, room.width()));
+        painter->restore();
+    }
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        const QSize size = QStyledItemDelegate::sizeHint(option, index);
+        return {size.width(), size.height() + option.fontMetrics.height() / 3};
+    }
+};
 
 void addCommands(TKSVform1& window, std::vector<PaletteEntry>& entries)
 {
-    for (QAction* const action : window.commands()) {
-        if (action->isEnabled()) {
-            entries.push_back({QString(action->text()).remove('&').remove(QStringLiteral("...")),
-                               TPaletteDlg::tr("Command"),
-                               action->shortcut().toString(QKeySequence::NativeText), [action] {
-                                   action->trigger();
-                               }});
+    for (const CommandName& command : commandNames(window)) {
+        if (command.action->isEnabled()) {
+            entries.push_back({command.name, TPaletteDlg::tr("Command"),
+                               command.action->shortcut().toString(QKeySequence::NativeText),
+                               [action = command.action] { action->trigger(); }, command.menu});
         }
     }
 }
@@ -126,6 +174,8 @@ TPaletteDlg::TPaletteDlg(TKSVform1& window)
     list_->setObjectName(QStringLiteral("EntryList"));
     list_->setAccessibleName(tr("What was found"));
     list_->setUniformItemSizes(true);
+    list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list_->setItemDelegate(new EntryDelegate(list_));
     list_->setFocusPolicy(Qt::NoFocus);
     auto* const box = new QVBoxLayout(this);
     box->addWidget(find_);
@@ -150,12 +200,15 @@ void TPaletteDlg::FindEditTextChanged()
     list_->clear();
     for (std::size_t i = 0; i < shown; ++i) {
         const PaletteEntry& entry = entries_[found[i].second];
-        QString text = entry.text + QStringLiteral("   \u2013 ") + entry.kind;
-        if (!entry.keys.isEmpty()) {
-            text += QStringLiteral("   ") + entry.keys;
-        }
-        auto* const item = new QListWidgetItem(text, list_);
+        auto* const item = new QListWidgetItem(entry.text, list_);
         item->setData(kEntryRole, qulonglong(found[i].second));
+        const QString kind = entry.menu.isEmpty() ? entry.kind : tr("%1 menu").arg(entry.menu);
+        item->setData(kKindRole, kind);
+        item->setData(kKeysRole, entry.keys);
+        QStringList spoken = {entry.text, kind, entry.keys};
+        spoken.removeAll(QString());
+        item->setData(Qt::AccessibleTextRole, spoken.join(QStringLiteral(", ")));
+        item->setToolTip(entry.text);
     }
     list_->setCurrentRow(0);
 }

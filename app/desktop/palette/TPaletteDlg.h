@@ -17,9 +17,10 @@ class TKSVform1;
 struct PaletteEntry
 {
     QString text;
-    QString kind; ///< "Command", "Chart" and so on, shown behind the text
+    QString kind; ///< "Command", "Chart" and so on
     QString keys;
     std::function<void()> choose;
+    QString menu = {}; ///< of a command
 };
 
 /// Everything that can be found now. Points are found in every divisional chart: "Mars in D-9".
