@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 #include <numeric>
+#include <optional>
 
 namespace kestrav::present
 {
@@ -13,6 +14,7 @@ namespace
 
 constexpr std::array<double, 7> kScales = {1.0, 0.95, 0.9, 0.85, 0.8, 0.75, kLeastScale};
 constexpr int kMostColumns = 6;
+constexpr double kReadable = 6.5; // the size of letters, where the unit is a pixel or a point
 constexpr double kLineSpacing = 1.1;
 constexpr double kTightSpacing = 1.0;     // in several columns
 constexpr double kGapBetweenLabels = 0.5; // em
@@ -34,26 +36,42 @@ public:
         if (task_.widths.empty()) {
             return {task_.size, {}, 0, {}};
         }
-        for (const double scale : scales()) {
-            if (place(task_.widths, 1, scale)) {
-                return {scale * task_.size, boxes_, 0, {}};
-            }
-        }
-        for (const double scale : scales()) {
-            for (int columns = 2; columns <= kMostColumns && enoughArea(scale); ++columns) {
-                widestLine_ = 0;
-                if (place(task_.widths, columns, scale)) {
-                    return {scale * task_.size, boxes_, 0, {}};
-                }
-                if (widestLine_ < std::size_t(columns)) {
-                    break; // more columns change nothing
-                }
+        // Several columns are better than letters that can hardly be read.
+        for (const bool readable : {true, false}) {
+            if (const std::optional<double> scale = placeAll(readable)) {
+                return {*scale * task_.size, boxes_, 0, {}};
             }
         }
         return packSome();
     }
 
 private:
+    // Lays all labels, in letters that are readable or in the smaller ones, and tells their scale.
+    std::optional<double> placeAll(bool readable)
+    {
+        const auto wanted = [&](double scale) {
+            return (scale * task_.size >= kReadable) == readable;
+        };
+        for (const double scale : scales()) {
+            if (wanted(scale) && place(task_.widths, 1, scale)) {
+                return scale;
+            }
+        }
+        for (const double scale : scales()) {
+            for (int columns = 2; columns <= kMostColumns && wanted(scale) && enoughArea(scale);
+                 ++columns) {
+                widestLine_ = 0;
+                if (place(task_.widths, columns, scale)) {
+                    return scale;
+                }
+                if (widestLine_ < std::size_t(columns)) {
+                    break; // more columns change nothing
+                }
+            }
+        }
+        return std::nullopt;
+    }
+
     [[nodiscard]] std::span<const double> scales() const
     {
         return std::span<const double>(kScales).first(task_.characterGrid ? 1 : kScales.size());

@@ -35,7 +35,8 @@ struct Packing
 
 /// Places the labels line by line around the focus: first in one column with the font shrinking to
 /// kLeastScale, then in two to six columns in the same way, then as many as there is room for with
-/// "+n" behind them. Nothing is ever placed outside the area.
+/// "+n" behind them. Letters below 6.5 units come only after columns of larger ones. Nothing is
+/// ever placed outside the area.
 [[nodiscard]] Packing packLabels(const PackingTask& task);
 
 /// Places one text with its centre as close to the spot as the area lets it, shrunk as far as it

@@ -40,8 +40,8 @@ constexpr int kTypingMilliseconds = 1200;
 // room for them.
 constexpr double kShareOfFont = 0.75;
 constexpr double kGreatestShare = 0.06; // of the side
-constexpr double kShareOfSmall = 0.062;
-constexpr double kLeastSmallLetters = 5.0;
+constexpr double kShareOfSmall = 0.068;
+constexpr double kLeastSmallLetters = 6.5;
 
 int hiddenPoints(const present::DisplayList& list)
 {

@@ -20,6 +20,7 @@ constexpr int kSignLight = 34; // of 255
 constexpr int kLordLight = 70;
 constexpr double kFrameWidth = 2.0;
 constexpr double kBesidePoint = 4.0;
+constexpr double kAboveLetters = 0.12; // of the box, which has as much below the letters
 constexpr double kRounding = 3.0;
 
 QPolygonF cornersOf(const present::Region& region)
@@ -38,7 +39,8 @@ bool isSmall(const present::Region& region)
 
 QRectF aroundPoint(const present::Region& region)
 {
-    return cornersOf(region).boundingRect().adjusted(-kBesidePoint, 0.0, kBesidePoint, 0.0);
+    const QRectF box = cornersOf(region).boundingRect();
+    return box.adjusted(-kBesidePoint, -kAboveLetters * box.height(), kBesidePoint, 0.0);
 }
 
 void fill(QPainter& painter, const present::Region& region, int strength)

@@ -4,9 +4,11 @@
 
 #include <QFontMetricsF>
 #include <QLineF>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QPalette>
 #include <QPolygonF>
+#include <QTransform>
 #include <QWidget>
 
 #include <algorithm>
@@ -32,37 +34,109 @@ QColor colourOf(ColourRole role, const present::DisplayList& list)
     return toQt(present::colourOf(role, list.scheme));
 }
 
-QPolygonF polygonOf(const std::vector<present::Spot>& points)
+// Puts the corners of straight drawings on whole pixels, so that their lines are equally sharp.
+class PixelGrid
 {
-    QPolygonF polygon;
-    for (const present::Spot& spot : points) {
-        polygon << QPointF(spot.x, spot.y);
+public:
+    PixelGrid(const QPainter& painter, const present::DisplayList& list)
+        : transform_(painter.deviceTransform())
+    {
+        const QPaintEngine* const engine = painter.paintEngine();
+        bool invertible = false;
+        back_ = transform_.inverted(&invertible);
+        active_ = engine != nullptr && engine->type() == QPaintEngine::Raster && invertible &&
+                  transform_.type() <= QTransform::TxScale;
+        room_ = transform_.mapRect(QRectF(0.0, 0.0, list.width, list.height));
     }
-    return polygon;
+
+    // The width of a pen that covers whole pixels.
+    [[nodiscard]] double width(double wanted) const
+    {
+        return active_ ? pixels(wanted) / transform_.m11() : wanted;
+    }
+
+    // The corner moved by at most a pixel, so that a pen of that width around it stays inside.
+    [[nodiscard]] QPointF corner(const present::Spot& spot, double width) const
+    {
+        const QPointF exact(spot.x, spot.y);
+        if (!active_) {
+            return exact;
+        }
+        const double half = pixels(width) / 2.0;
+        const auto along = [half](double at, double low, double high) {
+            const double inside = std::clamp(at, low + half, std::max(low + half, high - half));
+            // The edges of the pen lie between two pixels.
+            return std::round(inside - half) + half;
+        };
+        const QPointF device = transform_.map(exact);
+        return back_.map(
+            QPointF(along(device.x(), std::ceil(room_.left()), std::floor(room_.right())),
+                    along(device.y(), std::ceil(room_.top()), std::floor(room_.bottom()))));
+    }
+
+private:
+    [[nodiscard]] double pixels(double width) const
+    {
+        return std::max(1.0, std::round(width * transform_.m11()));
+    }
+
+    QTransform transform_;
+    QTransform back_;
+    QRectF room_;
+    bool active_ = false;
+};
+
+// Level, upright or at half a right angle, as all lines of the square styles are.
+bool isStraight(const present::Spot& from, const present::Spot& to)
+{
+    constexpr double kNothing = 1e-6;
+    const double across = std::abs(to.x - from.x);
+    const double down = std::abs(to.y - from.y);
+    return across < kNothing || down < kNothing || std::abs(across - down) < kNothing;
 }
 
-void paintShape(QPainter& painter, const present::Shape& shape, const present::DisplayList& list)
+bool isStraight(const present::Shape& shape)
+{
+    const std::size_t corners = shape.points.size();
+    for (std::size_t i = 0; i < corners; ++i) {
+        if (!isStraight(shape.points[i], shape.points[(i + 1) % corners])) {
+            return false;
+        }
+    }
+    return true;
+}
+
+void paintShape(QPainter& painter, const present::Shape& shape, const present::DisplayList& list,
+                const PixelGrid& grid)
 {
     painter.setBrush(shape.fill ? QBrush(colourOf(*shape.fill, list)) : QBrush(Qt::NoBrush));
+    const bool onGrid = isStraight(shape);
     QPen pen(Qt::NoPen);
     if (shape.stroke) {
-        pen = QPen(colourOf(*shape.stroke, list), shape.width);
+        pen = QPen(colourOf(*shape.stroke, list), onGrid ? grid.width(shape.width) : shape.width);
         pen.setJoinStyle(Qt::MiterJoin);
     }
     painter.setPen(pen);
-    painter.drawPolygon(polygonOf(shape.points));
+    QPolygonF polygon;
+    for (const present::Spot& spot : shape.points) {
+        polygon << (onGrid ? grid.corner(spot, shape.width) : QPointF(spot.x, spot.y));
+    }
+    painter.drawPolygon(polygon);
 }
 
-void paintLine(QPainter& painter, const present::Line& line, const present::DisplayList& list)
+void paintLine(QPainter& painter, const present::Line& line, const present::DisplayList& list,
+               const PixelGrid& grid)
 {
     const QColor colour = colourOf(line.role, list);
-    QPen pen(colour, line.width);
+    const bool onGrid = !line.arrow && isStraight(line.from, line.to);
+    QPen pen(colour, onGrid ? grid.width(line.width) : line.width);
     if (line.dashed) {
         pen.setStyle(Qt::DashLine);
     }
     painter.setPen(pen);
-    const QPointF from(line.from.x, line.from.y);
-    const QPointF to(line.to.x, line.to.y);
+    const QPointF from =
+        onGrid ? grid.corner(line.from, line.width) : QPointF(line.from.x, line.from.y);
+    const QPointF to = onGrid ? grid.corner(line.to, line.width) : QPointF(line.to.x, line.to.y);
     painter.drawLine(from, to);
     if (line.arrow) {
         const double angle = std::atan2(to.y() - from.y(), to.x() - from.x());
@@ -155,14 +229,15 @@ void paintDisplayList(QPainter& painter, const present::DisplayList& list, const
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
+    const PixelGrid grid(painter, list);
     for (const present::Shape& shape : list.shapes) {
-        paintShape(painter, shape, list);
+        paintShape(painter, shape, list, grid);
     }
     if (above) {
         above(painter);
     }
     for (const present::Line& line : list.lines) {
-        paintLine(painter, line, list);
+        paintLine(painter, line, list, grid);
     }
     QFont unhinted = font;
     unhinted.setHintingPreference(QFont::PreferNoHinting);

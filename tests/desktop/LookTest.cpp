@@ -1,0 +1,102 @@
+// What a designer would look at: sharp lines, readable letters, menus and lists in good order.
+#include "app/desktop/diagram/DiagramView.h"
+#include "app/desktop/diagram/DisplayListPainter.h"
+#include "app/desktop/pages/PageStrip.h"
+#include "app/desktop/palette/TPaletteDlg.h"
+#include "tests/desktop/DesktopForTests.h"
+
+#include <QImage>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPainter>
+
+#include <string>
+
+namespace kestrav::desktop
+{
+namespace
+{
+
+// How many pixels of a row, or of a column, near its begin are neither paper nor background.
+int inkedNearBegin(const QImage& image, bool row, int along)
+{
+    const QRgb paper = row ? image.pixel(20, along) : image.pixel(along, 20);
+    int inked = 0;
+    for (int i = 0; i < 10; ++i) {
+        inked += (row ? image.pixel(i, along) : image.pixel(along, i)) != paper ? 1 : 0;
+    }
+    return inked;
+}
+
+TEST_F(WindowTest, BordersOfDiagramsCoverWholePixels)
+{
+    ASSERT_TRUE(window().pages().show(QStringLiteral("Chart")));
+    settle();
+    const DiagramView& view = *find<DiagramView>("DiagramView");
+    // South cells are squares, so that rows and columns away from the corners cross one border.
+    for (const double side : {104.3, 223.7, 331.0}) {
+        DiagramContents contents = view.contents();
+        contents.style = present::DiagramStyle::South;
+        DiagramView other;
+        other.setContents(contents);
+        present::DisplayList list = other.layOut(side, present::ColourScheme::Light);
+        list.texts.clear();
+        for (const double scale : {1.0, 1.5, 2.0}) {
+            QImage image(QSize(int(400 * scale), int(400 * scale)), QImage::Format_RGB32);
+            image.setDevicePixelRatio(scale);
+            image.fill(Qt::white);
+            QPainter painter(&image);
+            painter.translate(0.3, 0.3);
+            paintDisplayList(painter, list, window().font());
+            painter.end();
+            const int middle = int(side * scale * 0.6);
+            const double wide = list.shapes.front().width * scale;
+            const int most = 1 + int(std::max(1.0, std::round(wide)));
+            // The background before the border counts as well, which is one pixel.
+            EXPECT_LE(inkedNearBegin(image, true, middle), most) << side << ' ' << scale;
+            EXPECT_LE(inkedNearBegin(image, false, middle), most) << side << ' ' << scale;
+        }
+    }
+}
+
+TEST_F(WindowTest, SmallDiagramsMakeColumnsBeforeLettersCannotBeRead)
+{
+    ASSERT_TRUE(window().pages().show(QStringLiteral("Vargas")));
+    settle();
+    // Seven points of this chart share a sign of the Hora.
+    const DiagramView& hora = *find<DiagramView>("DiagramView1");
+    ASSERT_EQ(hora.contents().varga, 1);
+    const present::DisplayList list = hora.layOut(104.0, present::ColourScheme::Light);
+    int points = 0;
+    for (const present::Region& region : list.regions) {
+        if (region.kind == present::RegionKind::Point) {
+            const double letters = region.polygon[2].y - region.polygon[0].y;
+            EXPECT_GE(letters, 6.5) << core::toUtf8(region.tip);
+            ++points;
+        }
+    }
+    EXPECT_EQ(points, 10) << "and no point is left out";
+}
+
+TEST_F(WindowTest, PaletteTellsTheMenuAndTheKeysOfCommands)
+{
+    TPaletteDlg dialog(window());
+    dialog.show();
+    auto* const find_ = find<QLineEdit>("FindEdit", &dialog);
+    auto* const list = find<QListWidget>("EntryList", &dialog);
+    ASSERT_GT(list->count(), 10);
+    EXPECT_EQ(list->item(0)->data(Qt::AccessibleTextRole).toString(),
+              QStringLiteral("New Database, File menu, Ctrl+Shift+N"))
+        << "without letters the order is that of the menus";
+    QTest::keyClicks(find_, "export qck");
+    ASSERT_GT(list->count(), 0);
+    EXPECT_EQ(list->item(0)->text(), QStringLiteral("Export: QCK Chart List"));
+    find_->clear();
+    QTest::keyClicks(find_, "Albert Ein");
+    ASSERT_GT(list->count(), 0);
+    EXPECT_EQ(list->item(0)->data(Qt::AccessibleTextRole).toString(),
+              QStringLiteral("Albert Einstein, Chart"));
+}
+
+} // namespace
+} // namespace kestrav::desktop
