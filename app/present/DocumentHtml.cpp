@@ -63,8 +63,13 @@ public:
             SvgOptions options;
             options.idPrefix = prefix;
             const std::string svg = writeSvg(drawing.list, options);
+            const bool titled = row.drawings.size() > 1;
+            if (titled) {
+                *html_ += "<div><p>" + xmlText(drawing.list.title) + "</p>\n";
+            }
             // What stands before the element is for files of their own.
             *html_ += svg.substr(svg.find("<svg"));
+            *html_ += titled ? "</div>\n" : "";
         }
         *html_ += "</div>\n";
     }

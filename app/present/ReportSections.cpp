@@ -5,6 +5,7 @@
 #include "app/present/PanchangaTables.h"
 #include "app/present/TablesOfDays.h"
 #include "app/present/TerminalDrawing.h"
+#include "app/present/VargaTables.h"
 #include "core/DisplayFlags.h"
 #include "core/FileText.h"
 
@@ -158,6 +159,8 @@ private:
             Drawing drawing;
             drawing.list = layoutDiagram(subject, style, options, kDrawingSize);
             drawing.text = terminalDiagram(subject, style, options);
+            // The head of the report names the chart.
+            drawing.list.title = vargaHeading(varga);
             row.drawings.push_back(std::move(drawing));
         }
         blocks_.emplace_back(std::move(row));

@@ -117,16 +117,21 @@ QList<QAction*> DiagramGridPanel::panelActions()
 std::vector<present::Block> DiagramGridPanel::blocks()
 {
     refreshNow();
+    std::vector<DiagramTile*> tiles = tiles_;
+    if (printsLarge()) {
+        tiles.insert(tiles.begin(), large_);
+    }
     std::vector<present::Block> blocks;
     present::DrawingRow row;
-    for (std::size_t i = 0; i < tiles_.size(); ++i) {
-        const DiagramView& view = *tiles_[i]->view();
+    for (const DiagramTile* const tile : tiles) {
+        const DiagramView& view = *tile->view();
         if (view.contents().chart) {
             row.drawings.push_back({view.layOut(kPrintedSize, present::ColourScheme::Print),
                                     view.drawnWithCharacters()});
+            row.drawings.back().list.title = toWide(tile->title());
         }
         if (!row.drawings.empty() &&
-            (row.drawings.size() == kPrintedInRow || i + 1 == tiles_.size())) {
+            (row.drawings.size() == kPrintedInRow || tile == tiles.back())) {
             blocks.emplace_back(std::exchange(row, {}));
         }
     }
@@ -205,12 +210,15 @@ void VargaGridPanel::refresh()
                          ? QString()
                          : tr("~ near a boundary: %1").arg(near.join(QLatin1String(", "))));
     contents.small = true;
+    const bool combust = contents.options.combust;
     contents.options.degrees = present::DegreeForm::None;
     contents.options.nameStyle = 2;
     contents.options.navamshaRing = false;
     for (int varga = 0; varga < core::kVargaCount; ++varga) {
         DiagramTile& tile = *tiles_[std::size_t(varga)];
         contents.varga = varga;
+        // Which planets are combust is the same in all of them; the rashi says it.
+        contents.options.combust = combust && varga == core::kRashi;
         const QString name = vargaTitle(varga);
         const QString division = QStringLiteral("D-%1").arg(analysis::vargaDivision(varga));
         tile.setWords(division + QLatin1Char(' ') + name, division,

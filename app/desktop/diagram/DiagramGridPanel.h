@@ -38,6 +38,11 @@ protected:
     void arrange();
     /// A small diagram was clicked.
     virtual void tileClicked(int index) = 0;
+    /// Whether the large diagram is printed beside the small ones.
+    [[nodiscard]] virtual bool printsLarge() const
+    {
+        return false;
+    }
     /// Connects what every diagram of the grid can do.
     void connectView(DiagramView* view);
 
@@ -82,6 +87,10 @@ public:
 protected:
     void refresh() override;
     void tileClicked(int index) override;
+    [[nodiscard]] bool printsLarge() const override
+    {
+        return true;
+    }
 
 private:
     int receiver_ = present::BinduChoice::kSarva;

@@ -25,6 +25,11 @@ public:
     /// empty.
     void setWords(const QString& title, const QString& brief, const QString& tip,
                   const QString& note = {});
+    /// The title in full.
+    [[nodiscard]] QString title() const
+    {
+        return words_;
+    }
     /// Shown in the large diagram.
     void setChosen(bool chosen);
     /// What title and note take of the height.

@@ -22,6 +22,9 @@ constexpr double kTextPoints = 8.5;
 constexpr double kHeadingPoints = 12.0;
 constexpr double kGap = 6.0;              // between two blocks
 constexpr double kLargestDrawing = 255.0; // about nine centimetres
+constexpr double kWideDrawing = 1.5;      // times as wide as high: it takes the whole width
+constexpr double kTitlePoints = 7.0;      // above one of several drawings
+constexpr double kSmallestHeading = 8.0;
 
 class FlowMaker
 {
@@ -107,21 +110,23 @@ private:
         if (row.drawings.empty()) {
             return;
         }
-        const double room = width_ / double(row.drawings.size());
-        const double side = std::min(room - kGap, kLargestDrawing);
-        push({side + kGap, [row, room, side, font = font_](QPainter& painter) {
-                  for (std::size_t i = 0; i < row.drawings.size(); ++i) {
-                      const present::DisplayList& list = row.drawings[i].list;
-                      if (list.width <= 0.0) {
-                          continue;
-                      }
-                      painter.save();
-                      painter.translate(room * double(i) + (room - side) / 2.0, 0.0);
-                      painter.scale(side / list.width, side / list.width);
-                      paintDisplayList(painter, list, font);
-                      painter.restore();
-                  }
-              }});
+        const auto wide = [](const present::Drawing& drawing) {
+            return drawing.list.width > kWideDrawing * drawing.list.height;
+        };
+        const auto count = double(row.drawings.size());
+        const double most = std::any_of(row.drawings.begin(), row.drawings.end(), wide)
+                                ? width_
+                                : count * (kLargestDrawing + kGap);
+        FlowItem item = drawingsItem(row.drawings, {std::min(width_, most), width_}, font_);
+        item.height += kGap;
+        if (most < width_) {
+            item.paint = [paint = std::move(item.paint),
+                          left = (width_ - most) / 2.0](QPainter& painter) {
+                painter.translate(left, 0.0);
+                paint(painter);
+            };
+        }
+        push(std::move(item));
     }
 
     void add(const present::PageBreak& /*pageBreak*/)
@@ -146,10 +151,86 @@ QFont paperFont(const QFont& font, double points)
     return made;
 }
 
+FlowItem drawingsItem(const std::vector<present::Drawing>& drawings, QSizeF room, const QFont& font)
+{
+    const QFont small = paperFont(font, kTitlePoints);
+    const double words = drawings.size() > 1 ? QFontMetricsF(small).height() : 0.0;
+    double width = 1.0;
+    double height = 1.0;
+    for (const present::Drawing& drawing : drawings) {
+        width = std::max(width, drawing.list.width);
+        height = std::max(height, drawing.list.height);
+    }
+    double scale = 0.0;
+    int columns = 1;
+    const int count = int(drawings.size());
+    for (int tried = 1; tried <= count; ++tried) {
+        const int rows = (count + tried - 1) / tried;
+        const double fits = std::min(((room.width() + kGap) / tried - kGap) / width,
+                                     ((room.height() + kGap) / rows - kGap - words) / height);
+        if (fits > scale) {
+            scale = fits;
+            columns = tried;
+        }
+    }
+    const int rows = (count + columns - 1) / columns;
+    const double across = width * scale + kGap;
+    const double down = words + height * scale + kGap;
+    FlowItem item;
+    item.height = std::max(0.0, rows * down - kGap);
+    const double left = std::max(0.0, (room.width() - (columns * across - kGap)) / 2.0);
+    item.paint = [drawings, small, words, scale, columns, across, down, left, width,
+                  font](QPainter& painter) {
+        const QFontMetricsF metrics(small);
+        for (std::size_t i = 0; i < drawings.size(); ++i) {
+            const present::DisplayList& list = drawings[i].list;
+            if (list.width <= 0.0 || scale <= 0.0) {
+                continue;
+            }
+            painter.save();
+            painter.translate(left + across * double(i % std::size_t(columns)),
+                              down * double(i / std::size_t(columns)));
+            if (words > 0.0) {
+                const QString title =
+                    metrics.elidedText(toQt(list.title), Qt::ElideRight, width * scale);
+                painter.setFont(small);
+                painter.setPen(Qt::black);
+                painter.drawText(QPointF((width * scale - metrics.horizontalAdvance(title)) / 2.0,
+                                         metrics.ascent()),
+                                 title);
+                painter.translate(0.0, words);
+            }
+            painter.scale(scale, scale);
+            paintDisplayList(painter, list, font);
+            painter.restore();
+        }
+    };
+    return item;
+}
+
+FlowItem scaledItem(FlowItem item, double part)
+{
+    if (part < 1.0) {
+        item.height *= part;
+        item.paint = [paint = std::move(item.paint), part](QPainter& painter) {
+            painter.save();
+            painter.scale(part, part);
+            paint(painter);
+            painter.restore();
+        };
+    }
+    return item;
+}
+
 FlowItem headingItem(const std::wstring& text, double width, const QFont& font)
 {
     QFont bold = paperFont(font, kHeadingPoints);
     bold.setBold(true);
+    for (double points = kHeadingPoints - 1.0;
+         points >= kSmallestHeading && QFontMetricsF(bold).horizontalAdvance(toQt(text)) > width;
+         points -= 1.0) {
+        bold = paperFont(bold, points);
+    }
     const QFontMetricsF metrics(bold);
     const QString shown = metrics.elidedText(toQt(text), Qt::ElideRight, width);
     FlowItem item;

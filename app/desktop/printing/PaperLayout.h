@@ -68,12 +68,17 @@ private:
 
     void layOutHead(const PaperDocument& document);
     void layOutCells(const PaperDocument& document, std::vector<FlowItem>& left);
+    void layOutCell(const PaperCell& cell, const QRectF& frame, std::vector<FlowItem>& left);
     void layOutFlow(const std::vector<FlowItem>& items);
+    void newSheet();
+    bool layOutColumns(const std::vector<FlowItem>& items, std::size_t first, std::size_t end);
 
     QSizeF paper_;
     QFont font_;
     double top_ = 0.0;    ///< where the contents begin below the head
     double bottom_ = 0.0; ///< where they end above the foot
+    double y_ = 0.0;      ///< where the flow goes on
+    bool fresh_ = true;   ///< nothing stands on the last sheet yet
     std::vector<Sheet> sheets_;
     std::vector<Placed> head_;
     QString foot_;

@@ -17,7 +17,7 @@ namespace
 {
 
 constexpr double kColumnGap = 8.0;
-constexpr double kSmallestPart = 0.6; // of the size of the letters
+constexpr double kSmallestPart = 0.5; // of the size of the letters
 constexpr double kRuleWidth = 0.4;
 
 struct CellText
@@ -50,11 +50,13 @@ public:
         for (const present::Row& row : table_.rows) {
             for (FlowItem& part : rowItems(row)) {
                 part.repeated = heads;
+                part.columnWidth = wraps_ ? 0.0 : rowWidth();
+                part.cut = cut_;
                 items.push_back(std::move(part));
             }
         }
         for (const std::wstring& note : table_.notes) {
-            for (const QString& part : wrapped(toQt(note), width_)) {
+            for (const QString& part : wrapped(toQt(note), width_ / part_)) {
                 items.push_back(line(part, false));
             }
         }
@@ -64,17 +66,33 @@ public:
 private:
     [[nodiscard]] double naturalWidth(std::size_t column, const QFontMetricsF& metrics) const
     {
-        double widest = metrics.horizontalAdvance(toQt(table_.columns[column].heading).trimmed());
+        QFont bold = font_;
+        bold.setBold(true);
+        double widest =
+            QFontMetricsF(bold).horizontalAdvance(toQt(table_.columns[column].heading).trimmed());
         for (const present::Row& row : table_.rows) {
             if (column < row.size()) {
                 widest =
                     std::max(widest, metrics.horizontalAdvance(toQt(row[column].text).trimmed()));
             }
         }
-        return widest;
+        // What is measured in parts of a point is broken in whole ones.
+        return widest + 1.0;
     }
 
-    // Sizes of letters and columns so that the table is no wider than its room.
+    [[nodiscard]] double columnsAndGaps() const
+    {
+        return std::accumulate(widths_.begin(), widths_.end(), 0.0) +
+               kColumnGap * std::max(0.0, double(widths_.size()) - 1.0);
+    }
+
+    // Of a row as it is painted.
+    [[nodiscard]] double rowWidth() const
+    {
+        return columnsAndGaps() * part_;
+    }
+
+    // Makes the columns, and the part of its size at which the table is no wider than its room.
     void fit()
     {
         const QFontMetricsF metrics(font_);
@@ -82,24 +100,22 @@ private:
             widths_.push_back(naturalWidth(i, metrics));
         }
         wraps_ = !table_.columns.empty() && table_.columns.back().align == present::Align::Wrapped;
-        const double gaps = kColumnGap * std::max(0.0, double(widths_.size()) - 1.0);
-        const auto total = [this] {
-            return std::accumulate(widths_.begin(), widths_.end(), 0.0);
-        };
-        if (wraps_ && total() + gaps > width_) {
-            const double others = total() - widths_.back() + gaps;
+        if (wraps_ && columnsAndGaps() > width_) {
+            const double others = columnsAndGaps() - widths_.back();
             widths_.back() = std::max(width_ - others, width_ / 3.0);
         }
-        if (total() + gaps <= width_) {
+        if (columnsAndGaps() <= width_) {
             return;
         }
-        const double part = std::max(kSmallestPart, (width_ - gaps) / total());
-        font_.setPixelSize(std::max(4, int(font_.pixelSize() * part)));
-        const double real = double(font_.pixelSize()) / metrics.height();
-        const double shrink =
-            std::min((width_ - gaps) / total(), real * metrics.height() / font_.pixelSize());
-        for (double& columnWidth : widths_) {
-            columnWidth *= shrink;
+        part_ = std::max(kSmallestPart, width_ / columnsAndGaps());
+        const double room = width_ / part_;
+        cut_ = columnsAndGaps() > room + 1.0;
+        if (cut_) {
+            const double gaps = kColumnGap * (double(widths_.size()) - 1.0);
+            const double shrink = (room - gaps) / (columnsAndGaps() - gaps);
+            for (double& columnWidth : widths_) {
+                columnWidth *= std::max(0.0, shrink);
+            }
         }
     }
 
@@ -133,7 +149,8 @@ private:
             painter.setPen(Qt::black);
             painter.drawText(QPointF(0.0, QFontMetricsF(font).ascent()), text);
         };
-        return item;
+        // A scale, since fonts have whole sizes only.
+        return scaledItem(std::move(item), part_);
     }
 
     [[nodiscard]] FlowItem textRow(std::vector<CellText> cells, bool heading) const
@@ -150,7 +167,6 @@ private:
             painter.setPen(Qt::black);
             double x = 0.0;
             for (std::size_t i = 0; i < cells.size() && i < widths.size(); ++i) {
-                // Half a point of room, because widths of columns were rounded with the letters.
                 const QString text =
                     metrics.elidedText(cells[i].text, Qt::ElideRight, widths[i] + kColumnGap - 1.0);
                 const double advance = metrics.horizontalAdvance(text);
@@ -163,7 +179,7 @@ private:
                 painter.drawLine(QPointF(0.0, below - 1.0), QPointF(x - kColumnGap, below - 1.0));
             }
         };
-        return item;
+        return scaledItem(std::move(item), part_);
     }
 
     [[nodiscard]] FlowItem headings() const
@@ -202,7 +218,9 @@ private:
     double width_;
     QFont font_;
     std::vector<double> widths_;
+    double part_ = 1.0; ///< of the natural size
     bool wraps_ = false;
+    bool cut_ = false; ///< too wide even for the smallest letters
 };
 
 } // namespace

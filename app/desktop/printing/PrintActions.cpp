@@ -21,7 +21,7 @@ PrintActions::PrintActions(TKSVform1& window) : QObject(&window), window_(window
                        [this] { PrintActionTriggered(); });
     window_.addCommand(MenuName::File,
                        {"PagePdfAction",
-                        tr("Save Page as P&DF..."),
+                        tr("Save Page as PD&F..."),
                         {},
                         tr("Saves the page as it would be printed")},
                        [this] { PdfActionTriggered(); });

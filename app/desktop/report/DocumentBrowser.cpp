@@ -20,6 +20,7 @@ namespace
 
 // Drawings are made for paper; on the screen two of them stand side by side.
 constexpr double kShownPart = 0.75;
+constexpr double kBesideDrawing = 4.0; // pixels
 
 QString escaped(const std::wstring& text)
 {
@@ -99,7 +100,12 @@ private:
 
     void add(const present::DrawingRow& row)
     {
-        html_ += QStringLiteral("<p>");
+        double across = 0.0;
+        for (const present::Drawing& drawing : row.drawings) {
+            across += drawing.list.width * kShownPart + kBesideDrawing;
+        }
+        const bool sideBySide = across <= browser_.viewport()->width();
+        html_ += QStringLiteral("<table cellspacing=\"0\" cellpadding=\"2\"><tr>");
         for (const present::Drawing& drawing : row.drawings) {
             const double ratio = browser_.devicePixelRatioF();
             // Drawn as large as it is shown: the browser would shrink it to jagged lines.
@@ -121,12 +127,17 @@ private:
             painter.end();
             const QString name = QStringLiteral("drawing%1").arg(++drawings_);
             browser_.document()->addResource(QTextDocument::ImageResource, QUrl(name), image);
-            html_ += QStringLiteral("<img src=\"%1\" width=\"%2\" height=\"%3\"> ")
-                         .arg(name)
+            html_ += QStringLiteral("<td align=\"center\">%1<img src=\"%2\" width=\"%3\" "
+                                    "height=\"%4\"></td>%5")
+                         .arg(row.drawings.size() > 1
+                                  ? escaped(drawing.list.title) + QStringLiteral("<br>")
+                                  : QString(),
+                              name)
                          .arg(shown.width())
-                         .arg(shown.height());
+                         .arg(shown.height())
+                         .arg(sideBySide ? QString() : QStringLiteral("</tr><tr>"));
         }
-        html_ += QStringLiteral("</p>");
+        html_ += QStringLiteral("</tr></table>");
     }
 
     void add(const present::PageBreak& /*pageBreak*/)

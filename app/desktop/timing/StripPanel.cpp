@@ -13,8 +13,8 @@ namespace kestrav::desktop
 namespace
 {
 
-constexpr double kPrintedWidth = 700.0;
-constexpr double kPrintedLane = 26.0;
+constexpr double kPrintedWidth = 900.0;
+constexpr double kPrintedLane = 30.0;
 
 } // namespace
 
@@ -47,6 +47,8 @@ void StripPanel::showNote(const QString& note)
 
 void StripPanel::forgetModel()
 {
+    // What is being made for what was shown before would come in between.
+    work_.cancel();
     model_.reset();
 }
 
