@@ -255,7 +255,11 @@ Table panchangaTable(const PanchangaDay& day, bool twelveHour)
         table.add({L"Tara bala", timing::taraBalaText(day.taraBala->score)});
     }
     if (day.chandraBala) {
-        table.add({L"Chandra bala", scoreCell(day.chandraBala)});
+        const int score = *day.chandraBala;
+        table.add({L"Chandra bala", Cell(score > 0   ? L"Favourable"
+                                         : score < 0 ? L"Unfavourable"
+                                                     : L"Neutral",
+                                         score)});
     }
     return table;
 }

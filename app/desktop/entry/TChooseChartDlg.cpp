@@ -20,7 +20,7 @@ namespace
 {
 
 constexpr int kRowsShown = 14;
-constexpr int kColumnsShown = 52;
+constexpr int kColumnsShown = 60;
 
 bool movesInList(int key)
 {

@@ -35,7 +35,7 @@ TEventsDlg::TEventsDlg(Workspace& workspace, QWidget* parent)
     label->setTextFormat(Qt::PlainText);
     label->setBuddy(table_);
     QPushButton* const sort =
-        buttons_->addButton(tr("&Sort by Date"), QDialogButtonBox::ActionRole);
+        buttons_->addButton(tr("&Sort by Date"), QDialogButtonBox::ResetRole);
     sort->setObjectName(QStringLiteral("SortButton"));
     connect(sort, &QPushButton::clicked, table_, &EventsTable::sortByDate);
     keepEnterInside(*this);

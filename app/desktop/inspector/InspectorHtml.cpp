@@ -70,6 +70,17 @@ bool isLeftOut(const present::Table& table, std::size_t column)
            });
 }
 
+// Of a position inside of a division the minutes are enough beside its sign, house and dignity.
+present::Cell shortened(const present::Table& table, std::size_t column, present::Cell cell)
+{
+    const std::size_t minutes = cell.text.find(L'\'');
+    if (table.id == "placements" && table.columns[column].heading == L"Position" &&
+        minutes != std::wstring::npos) {
+        cell.text.erase(minutes + 1);
+    }
+    return cell;
+}
+
 QString tableHtml(const present::Table& table)
 {
     if (table.columns.empty() || table.rows.empty()) {
@@ -92,7 +103,8 @@ QString tableHtml(const present::Table& table)
         html += QStringLiteral("<tr>");
         for (std::size_t i = 0; i < std::min(row.size(), table.columns.size()); ++i) {
             if (!isLeftOut(table, i)) {
-                html += cellHtml(row[i], table.columns[i].align == present::Align::Right, small,
+                html += cellHtml(shortened(table, i, row[i]),
+                                 table.columns[i].align == present::Align::Right, small,
                                  QStringLiteral("td"));
             }
         }

@@ -50,7 +50,7 @@ constexpr PaletteRow kPalette[] = {
     {QPalette::Base, {0xFFFFFFFF, 0xFF1B1D1F}},
     {QPalette::AlternateBase, {0xFFF6F5F1, 0xFF222427}},
     {QPalette::Text, {0xFF1E1E1E, 0xFFE6E6E6}},
-    {QPalette::Button, {0xFFECEAE6, 0xFF33363A}},
+    {QPalette::Button, {0xFFECEAE6, 0xFF2C2F32}},
     {QPalette::ButtonText, {0xFF1E1E1E, 0xFFE6E6E6}},
     {QPalette::BrightText, {0xFFA3261E, 0xFFFF9B91}},
     {QPalette::ToolTipBase, {0xFFFFFBE8, 0xFF3A3D41}},
