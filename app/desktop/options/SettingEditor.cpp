@@ -47,12 +47,6 @@ protected:
     }
 };
 
-QString sentence(std::string_view meaning)
-{
-    const QString text = toQt(meaning);
-    return text.left(1).toUpper() + text.mid(1) + QLatin1Char('.');
-}
-
 } // namespace
 
 SettingEditor::SettingEditor(const core::SettingInfo& info, QWidget* parent)
@@ -85,7 +79,7 @@ void SettingEditor::name(QWidget* control, const char* kind)
     const QString name = toQt(info_.name);
     control->setObjectName(name.left(1).toUpper() + name.mid(1) + QLatin1String(kind));
     control->setAccessibleName(settingLabel(settingRow(info_.name)));
-    control->setToolTip(sentence(info_.meaning));
+    control->setToolTip(settingMeaning(info_) + QLatin1Char('.'));
 }
 
 void SettingEditor::makeFlags(QWidget* parent)

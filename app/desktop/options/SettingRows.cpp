@@ -31,9 +31,11 @@ constexpr std::array<SettingRow, 69> kRows = {{
     {"horaMethod", Page::Calculation, "Divisional charts", "Hora",
      "Leo and Cancer|Counted on from Aries|Sign and its 7th|Table of half signs"},
     {"shodashamshaVariant", Page::Calculation, "Divisional charts", "Shodashamsha",
-     "Counted on from Aries|Backwards in even signs"},
+     "Counted on from Aries|Backwards in even signs", "",
+     "Which of the two rules makes the Shodashamsha chart"},
     {"rudramshaVariant", Page::Calculation, "Divisional charts", "Rudramsha",
-     "Counted on from Aries|Backwards from Aries"},
+     "Counted on from Aries|Backwards from Aries", "",
+     "Which of the two rules makes the Rudramsha chart"},
     {"arudhasInVargas", Page::Calculation, "Divisional charts", "Arudhas in divisional charts"},
     {"sandhiMinutes", Page::Calculation, "Divisional charts", "Near a boundary", "", "'"},
     {"nodeDignityScheme", Page::Calculation, "Dignities and strengths",
@@ -55,10 +57,13 @@ constexpr std::array<SettingRow, 69> kRows = {{
     {"saham3", Page::Calculation, "Special points", "Saham S3"},
 
     {"dashaSystem", Page::Dashas, "Periods", "Dasha system"},
-    {"dashaStartPoint", Page::Dashas, "Periods", "Start point"},
+    {"dashaStartPoint", Page::Dashas, "Periods", "Start point", "", "",
+     "Point from whose nakshatra the first dasha is found; Kshema, Utpanna, Sadha and Adhana are "
+     "counted from the Moon"},
     {"dashaTotalLength", Page::Dashas, "Periods", "Length of the cycle"},
     {"nakshatraFraction", Page::Dashas, "Periods", "Elapsed part of the nakshatra",
-     "By longitude|By time"},
+     "By longitude|By time", "",
+     "How the elapsed part of the birth nakshatra is measured"},
     {"dashaLevels", Page::Dashas, "Periods", "Levels"},
     {"dashaYearLength", Page::Dashas, "Length of the year", "Length of the year"},
     {"customYearDays", Page::Dashas, "Length of the year", "Days of the custom year", "", " days"},
@@ -71,9 +76,11 @@ constexpr std::array<SettingRow, 69> kRows = {{
 
     {"allPasses", Page::Transits, "Listings", "Every pass"},
     {"nodeOption", Page::Transits, "Listings", "Transits of the nodes",
-     "Rahu and Ketu are listed|Ketu is left out|Both are left out"},
+     "Rahu and Ketu are listed|Ketu is left out|Both are left out", "",
+     "Whether transits of Rahu and Ketu stand in the listings"},
     {"nodeAspectOption", Page::Transits, "Aspects", "Aspects of the nodes",
-     "5th and 9th|2nd, 5th and 9th|5th, 9th and 12th"},
+     "5th and 9th|2nd, 5th and 9th|5th, 9th and 12th", "",
+     "Which houses Rahu and Ketu aspect"},
 
     {"diagramStyle", Page::Display, "Diagrams", "Style"},
     {"diagramDegrees", Page::Display, "Diagrams", "Degrees"},
@@ -88,7 +95,8 @@ constexpr std::array<SettingRow, 69> kRows = {{
     {"quickTips", Page::Display, "At the start", "Quick tips"},
     {"wizardDone", Page::Display, "At the start", "Option wizard seen"},
 
-    {"displayFlags", Page::Names, "Names", "Names and glyphs"},
+    {"displayFlags", Page::Names, "Names", "Names and glyphs", "", "",
+     "English or Sanskrit names, letters or glyphs"},
     {"diagramNameLetters", Page::Names, "Names", "Letters of a planet", "2, such as Jp|3, such as Jup"},
     {"monthFirst", Page::Names, "Dates and clocks", "Month before day"},
     {"twelveHourClock", Page::Names, "Dates and clocks", "Twelve-hour clock"},
@@ -154,6 +162,12 @@ const SettingRow& settingRow(std::string_view name)
 QString settingLabel(const SettingRow& row)
 {
     return QCoreApplication::translate(kContext, row.label);
+}
+
+QString settingMeaning(const core::SettingInfo& info)
+{
+    const char* const own = settingRow(info.name).meaning;
+    return *own == '\0' ? capital(toQt(info.meaning)) : QCoreApplication::translate(kContext, own);
 }
 
 QStringList settingChoices(const core::SettingInfo& info, const core::Settings& settings)

@@ -37,6 +37,8 @@ struct SettingRow
     /// Names of the values from the lowest on, separated by '|', where the settings table has none.
     const char* choices = "";
     const char* unit = ""; ///< after a number
+    /// What it means, where the settings table speaks of the numbers that stand for the choices.
+    const char* meaning = "";
 };
 
 /// Every setting, page by page in the order in which they are shown.
@@ -46,6 +48,9 @@ struct SettingRow
 [[nodiscard]] const SettingRow& settingRow(std::string_view name);
 
 [[nodiscard]] QString settingLabel(const SettingRow& row);
+
+/// What a setting means, as the window says it; begins with a capital letter and has no full stop.
+[[nodiscard]] QString settingMeaning(const core::SettingInfo& info);
 
 /// The names of the values of a setting from its lowest on; empty for switches, texts and plain
 /// numbers. Those of the ayanamsa are the rows of the table in the settings.

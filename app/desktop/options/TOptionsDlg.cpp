@@ -42,11 +42,6 @@ QToolButton* rowButton(const QString& text, const QString& name, const QString& 
     return button;
 }
 
-QString capital(const QString& text)
-{
-    return text.left(1).toUpper() + text.mid(1);
-}
-
 } // namespace
 
 TOptionsDlg::TOptionsDlg(TKSVform1& window, QWidget* parent)
@@ -197,9 +192,7 @@ TOptionsDlg::Row TOptionsDlg::makeRow(const SettingRow& row, QWidget* parent)
     grid->addWidget(reset, 0, 2, Qt::AlignTop);
     grid->addWidget(help, 0, 3, Qt::AlignTop);
 
-    const QString meaning = row.name == "displayFlags"
-                                ? tr("English or Sanskrit names, letters or glyphs")
-                                : capital(toQt(info.meaning));
+    const QString meaning = settingMeaning(info);
     auto* const described = new QLabel(
         tr("%1. Default: %2.").arg(meaning, settingWords(info, core::Settings{})), widget);
     described->setObjectName(QStringLiteral("Meaning-") + toQt(row.name));

@@ -59,7 +59,7 @@ std::string documentBytes(const present::Document& document, const QString& suff
 
 TReportForm::TReportForm(Workspace& workspace, present::Panel panel, QWidget* parent)
     : PanelWidget(workspace, std::move(panel), parent), definitions_(new QComboBox(this)),
-      sections_(new QListWidget(this)), plain_(new QCheckBox(tr("Plain &text"), this)),
+      sections_(new QListWidget(this)), plain_(new QCheckBox(tr("Plain te&xt"), this)),
       browser_(new QTextBrowser(this))
 {
     setObjectName(QStringLiteral("TReportForm"));
@@ -105,9 +105,9 @@ TReportForm::TReportForm(Workspace& workspace, present::Panel panel, QWidget* pa
     column->addWidget(sections_, 1);
     column->addLayout(moves);
     column->addWidget(button(tr("&Keep As..."), "KeepButton", [this] { KeepButtonClick(); }));
-    column->addWidget(button(tr("Save &File..."), "SaveButton", [this] { SaveButtonClick(); }));
+    column->addWidget(button(tr("&Save File..."), "SaveButton", [this] { SaveButtonClick(); }));
     column->addWidget(
-        button(tr("&Print Preview..."), "PreviewButton", [this] { PreviewButtonClick(); }));
+        button(tr("Print Previe&w..."), "PreviewButton", [this] { PreviewButtonClick(); }));
 
     auto* const splitter = new QSplitter(this);
     splitter->setChildrenCollapsible(false);

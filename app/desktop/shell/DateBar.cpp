@@ -64,7 +64,7 @@ DateBar::DateBar(Workspace& workspace, QWidget* parent)
         arrowButton(Qt::RightArrow, "StepForwardButton", tr("One step forward (Alt+Right)"), this);
     connect(back, &QToolButton::clicked, this, [this] { step(-1); });
     connect(forward, &QToolButton::clicked, this, [this] { step(1); });
-    auto* const now = new QPushButton(tr("N&ow"), this);
+    auto* const now = new QPushButton(tr("&Now"), this);
     now->setObjectName(QStringLiteral("NowButton"));
     now->setToolTip(tr("Shared date to this moment (F5)"));
     connect(now, &QPushButton::clicked, this, &DateBar::goToNow);

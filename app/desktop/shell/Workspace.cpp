@@ -57,6 +57,13 @@ void setNowZone(core::Chart& record, const core::Settings& now, double unixSecon
     }
 }
 
+// Symbols stand in diagrams, which take them from the settings; all other texts are in letters, as
+// the codes of symbols can be read only with their font.
+void useNamesOf(const core::Settings& settings)
+{
+    core::SetDisplayFlags(static_cast<std::uint32_t>(settings.displayFlags) & ~core::kGlyphNames);
+}
+
 } // namespace
 
 double julianDayOfUnix(double seconds)
@@ -75,7 +82,7 @@ Workspace::Workspace(DataPointer data, core::StoredSettings settings,
       settingsPath_(std::move(settingsPath)), moment_(now()),
       yogas_(std::make_shared<const yoga::YogaLibrary>())
 {
-    core::SetDisplayFlags(static_cast<std::uint32_t>(settings_.settings.displayFlags));
+    useNamesOf(settings_.settings);
     database_ = std::make_unique<OpenDatabase>(present::dateOrder(settings_.settings));
 }
 
@@ -92,7 +99,7 @@ void Workspace::changeSettings(const core::Settings& settings)
         return;
     }
     const core::Settings before = std::exchange(settings_.settings, settings);
-    core::SetDisplayFlags(static_cast<std::uint32_t>(settings.displayFlags));
+    useNamesOf(settings);
     if (const auto written = core::writeSettingsFile(settingsPath_, settings_); !written) {
         tellProblem(tr("The settings could not be kept: %1").arg(toQt(written.error().text())));
     }

@@ -210,7 +210,9 @@ void DashaTreePanel::openAtMoment()
     // Who works in the tree moves the date from there, and must not lose the place.
     const bool lost = !tree_->currentIndex().isValid();
     if (!path.isEmpty() && (lost || !tree_->hasFocus())) {
+        opening_ = true;
         tree_->setCurrentIndex(path.back());
+        opening_ = false;
         tree_->scrollTo(path.back(), QAbstractItemView::PositionAtCenter);
         tree_->horizontalScrollBar()->setValue(0); // the names, wherever there is little room
     }
@@ -224,9 +226,10 @@ void DashaTreePanel::fitColumns()
     }
 }
 
+// What the user selects is inspected; the period that the tree opens at is not.
 void DashaTreePanel::chooseLord(const QModelIndex& index)
 {
-    if (index.isValid() && tree_->hasFocus()) {
+    if (index.isValid() && tree_->hasFocus() && !opening_) {
         choose(present::dashaLordLink(model_->lordKind(), model_->period(index).lord()));
     }
 }

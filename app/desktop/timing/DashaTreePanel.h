@@ -56,6 +56,7 @@ private:
     DashaTreeModel* model_;
     ChartPointer shown_;
     int shownSystem_ = -1;
+    bool opening_ = false;
     core::Settings shownSettings_;
     QList<QAction*> actions_;
 };
