@@ -1,6 +1,7 @@
 #include "app/desktop/database/OpenQueue.h"
 
 #include "app/desktop/database/DatabaseActions.h"
+#include "app/desktop/database/OpenDatabase.h"
 #include "app/desktop/database/TProgressDlg.h"
 #include "app/desktop/shell/Convert.h"
 #include "app/desktop/shell/Ks6main.h"
@@ -10,6 +11,7 @@
 #include <QTimer>
 
 #include <chrono>
+#include <system_error>
 
 namespace kestrav::desktop
 {
@@ -45,6 +47,14 @@ bool OpenQueue::busy() const
            window_.findChild<TProgressDlg*>() != nullptr;
 }
 
+bool OpenQueue::isOpen(const std::filesystem::path& file) const
+{
+    OpenDatabase& database = window_.workspace().database();
+    std::error_code problem;
+    return std::filesystem::equivalent(file, database.path(), problem) &&
+           !database.charts().changedOnDisk();
+}
+
 void OpenQueue::openNext()
 {
     if (waiting_.empty()) {
@@ -56,8 +66,11 @@ void OpenQueue::openNext()
     }
     const std::filesystem::path file = waiting_.front();
     waiting_.pop_front();
-    // May ask questions, while which the next one waits.
-    files_.open(file);
+    // Reading anew what is open already would only end what can be undone.
+    if (!isOpen(file)) {
+        // May ask questions, while which the next one waits.
+        files_.open(file);
+    }
     timer_->start(0);
 }
 

@@ -27,6 +27,7 @@ public:
 
 private:
     [[nodiscard]] bool busy() const;
+    [[nodiscard]] bool isOpen(const std::filesystem::path& file) const;
     void openNext();
 
     TKSVform1& window_;

@@ -59,7 +59,8 @@ TDataEntryForm::TDataEntryForm(Workspace& workspace, QWidget* parent)
       birth_(new BirthPage(workspace, this)), events_(new EventsTable(this)),
       ascendant_(new QLabel(this)), moon_(new QLabel(this)), day_(new QLabel(this)),
       state_(new QLabel(this)),
-      buttons_(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this)),
+      // Tab comes to them last, as they join the form after all pages.
+      buttons_(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel)),
       timer_(new QTimer(this)), soon_(new QTimer(this))
 {
     setObjectName(QStringLiteral("TDataEntryForm"));
