@@ -6,6 +6,8 @@
 #include "app/desktop/options/SettingEditor.h"
 #include "app/desktop/shell/Convert.h"
 #include "app/desktop/shell/Ks6main.h"
+#include "app/present/BirthRecord.h"
+#include "app/present/Clock.h"
 #include "app/present/TextValues.h"
 #include "astro/Ayanamsa.h"
 #include "core/Files.h"
@@ -239,6 +241,14 @@ void TOptionWizardForm::showChoices()
     }
     const core::Chart now = [this] {
         core::Chart chart = window_.workspace().nowRecord();
+        // Before a place is chosen the record has that of the open chart, and its clock.
+        if (settings_.nowCity.empty()) {
+            const double seconds = unixOfJulianDay(Workspace::now());
+            const present::SystemZone zone = present::systemZoneAt(seconds);
+            chart.zone = zone.zone;
+            chart.daylightSaving = zone.daylightSaving;
+            present::setLocalMoment(chart, seconds);
+        }
         chart.time.utHours = chart.time.localTime - chart.zone - chart.daylightSaving;
         return chart;
     }();
