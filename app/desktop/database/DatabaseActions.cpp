@@ -37,8 +37,6 @@ namespace kestrav::desktop
 namespace
 {
 
-using core::Answer;
-using core::Buttons;
 using data::Outcome;
 
 // Larger files are read on another thread.

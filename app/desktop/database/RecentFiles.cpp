@@ -59,7 +59,7 @@ void rememberChart(const QString& name)
 
 QString chartsFolder()
 {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) +
+    QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) +
                            QStringLiteral("/Kestrav");
     QDir().mkpath(folder);
     return folder;
