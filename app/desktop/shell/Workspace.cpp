@@ -128,7 +128,7 @@ ChartPointer Workspace::compute(const core::Chart& record, bool withChanges)
             }
         }
         analysis::analyseSigns(chart, settings());
-            computed->changed.set(std::size_t(point));
+        computed->changed.set(std::size_t(point));
     }
     return computed;
 }

@@ -5,9 +5,9 @@
 #include "app/desktop/research/ResearchDesk.h"
 #include "app/desktop/shell/Ks6main.h"
 #include "app/desktop/shell/TMessages.h"
-#include "app/desktop/yogas/YogaDrafts.h"
 #include "app/desktop/yogas/YogaCommands.h"
 #include "app/desktop/yogas/YogaDesk.h"
+#include "app/desktop/yogas/YogaDrafts.h"
 #include "app/desktop/yogas/Ytyogatree.h"
 
 #include <QMenu>
