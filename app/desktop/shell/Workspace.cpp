@@ -121,6 +121,7 @@ ChartPointer Workspace::compute(const core::Chart& record, bool withChanges)
         core::Chart& chart = computed->chart;
         for (const auto& [point, longitude] : changed_) {
             analysis::storePoint(chart, point, longitude);
+            computed->changed.set(std::size_t(point));
             if (point == core::kAscendant) {
                 moveHouses(chart, settings());
             } else if (point == core::cuspPoint(10)) {
@@ -128,7 +129,6 @@ ChartPointer Workspace::compute(const core::Chart& record, bool withChanges)
             }
         }
         analysis::analyseSigns(chart, settings());
-        computed->changed.set(std::size_t(point));
     }
     return computed;
 }
