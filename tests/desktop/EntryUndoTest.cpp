@@ -13,6 +13,8 @@
 #include <QScrollBar>
 #include <QSpinBox>
 #include <QTabWidget>
+#include <QTextCursor>
+#include <QTimer>
 
 namespace kestrav::desktop
 {
@@ -188,6 +190,28 @@ TEST_F(EntryUndoTest, NotesGoToTheirChartWhateverItIsCalled)
     settle();
     EXPECT_EQ(database().record(1)->name, L"Renamed Example");
     EXPECT_EQ(database().record(1)->identity.notes, L"of the third");
+}
+
+TEST_F(EntryUndoTest, NotesThatAreTypedForLongAreKeptMeanwhile)
+{
+    auto* const notes = find<QPlainTextEdit>("NotesEdit", window().centralWidget());
+    notes->setFocus();
+    notes->moveCursor(QTextCursor::Start);
+    QTest::keyClicks(notes, QStringLiteral("Typed, "));
+    notes->moveCursor(QTextCursor::End);
+    QTest::keyClick(notes, Qt::Key_Return);
+    auto* const timer = find<QTimer>("KeepTimer", window().centralWidget());
+    EXPECT_TRUE(timer->isActive());
+    EXPECT_GT(timer->remainingTime(), 0);
+    timer->start(0);
+    QTRY_VERIFY(database().modified());
+    settle();
+    EXPECT_TRUE(database().record(0)->identity.notes.starts_with(L"Typed, Birth register"));
+    // Typing goes on where it was.
+    QTest::keyClicks(notes, QStringLiteral("and more"));
+    EXPECT_TRUE(notes->toPlainText().endsWith(QLatin1String("forenoon.\nand more")));
+    command("SaveAction");
+    EXPECT_TRUE(database().record(0)->identity.notes.ends_with(L"forenoon.\r\nand more"));
 }
 
 TEST_F(EntryUndoTest, EveryStepIsTakenBackToTheFirstByte)

@@ -388,8 +388,10 @@ void ChartListPane::showCount()
     }
     count_->setText(text);
     // A list that shows nothing says why.
-    hint_->setText(all == 0 ? tr("There are no charts yet. Chart / New Chart enters one.")
-                            : tr("No chart fits the filter and the group chosen above."));
+    const bool damaged = !workspace_.database().list().tooShort.empty();
+    hint_->setText(all > 0   ? tr("No chart fits the filter and the group chosen above.")
+                   : damaged ? tr("No line of this file is a chart.")
+                             : tr("There are no charts yet. Chart / New Chart enters one."));
     hint_->setVisible(shown == 0);
 }
 

@@ -15,9 +15,11 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 namespace kestrav::desktop
@@ -25,6 +27,9 @@ namespace kestrav::desktop
 
 namespace
 {
+
+// What is typed is put into the chart so often, and with it into the copy of what is not saved.
+constexpr std::chrono::seconds kKeepPause{20};
 
 QString withLineFeeds(const std::wstring& notes)
 {
@@ -36,7 +41,7 @@ QString withLineFeeds(const std::wstring& notes)
 NotesPanel::NotesPanel(Workspace& workspace, present::Panel panel, QWidget* parent)
     : PanelWidget(workspace, std::move(panel), parent), text_(new QPlainTextEdit(this)),
       find_(new QLineEdit(this)), keep_(new QPushButton(tr("&Keep Notes"), this)),
-      note_(makeNote(this, "NotesNoteLabel"))
+      note_(makeNote(this, "NotesNoteLabel")), soon_(new QTimer(this))
 {
     setObjectName(QStringLiteral("NotesPanel"));
     text_->setObjectName(QStringLiteral("NotesEdit"));
@@ -62,6 +67,19 @@ NotesPanel::NotesPanel(Workspace& workspace, present::Panel panel, QWidget* pare
     connect(text_, &QPlainTextEdit::textChanged, this, &NotesPanel::showState);
     connect(text_, &QPlainTextEdit::modificationChanged, this, &NotesPanel::showState);
     connect(find_, &QLineEdit::returnPressed, this, &NotesPanel::FindEditReturnPressed);
+    soon_->setObjectName(QStringLiteral("KeepTimer"));
+    soon_->setSingleShot(true);
+    soon_->setInterval(kKeepPause);
+    connect(soon_, &QTimer::timeout, this, [this] {
+        if (keep_->isEnabled()) {
+            keepNotes();
+        }
+    });
+    connect(text_, &QPlainTextEdit::textChanged, this, [this] {
+        if (text_->document()->isModified() && !soon_->isActive()) {
+            soon_->start();
+        }
+    });
     connect(keep_, &QPushButton::clicked, this, &NotesPanel::KeepButtonClick);
     connect(&workspace.database(), &OpenDatabase::editsDue, this, &NotesPanel::keepNotes);
     connect(&workspace.database(), &OpenDatabase::linesEdited, this, &NotesPanel::followEdits);
@@ -106,7 +124,14 @@ void NotesPanel::refresh()
     // one name, so the line counts too.
     if (!(text_->document()->isModified() && name == shownOf_ && line == shownLine_)) {
         keepNotes();
-        text_->setPlainText(shown ? withLineFeeds(shown->chart.identity.notes) : QString());
+        const QString notes = shown ? withLineFeeds(shown->chart.identity.notes) : QString();
+        // Whoever is typing is not disturbed when these very notes were put into the chart.
+        const bool typing =
+            text_->hasFocus() && shown && name == shownOf_ && line == shownLine_ &&
+            data::cleanNotes(toWide(text_->toPlainText())) == shown->chart.identity.notes;
+        if (!typing && notes != text_->toPlainText()) {
+            text_->setPlainText(notes);
+        }
         text_->document()->setModified(false);
         shownOf_ = name;
         shownLine_ = line;

@@ -10,6 +10,7 @@ class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
 class QPushButton;
+class QTimer;
 
 namespace kestrav::desktop
 {
@@ -41,6 +42,7 @@ private:
     QLineEdit* find_;
     QPushButton* keep_;
     QLabel* note_;
+    QTimer* soon_; ///< to the next keeping of what is typed
     QList<QAction*> actions_;
     std::wstring shownOf_;                 ///< the chart whose notes are in the editor
     std::optional<std::size_t> shownLine_; ///< and its line in the database
