@@ -362,6 +362,7 @@ TEST_F(DatabaseFlowTest, MergeShowsWhatItWouldDoFirst)
                                  "1 equal and 1 damaged ones."));
         const QAbstractItemModel& table = *find<QAbstractItemView>("PreviewTable", dialog)->model();
         ASSERT_EQ(table.rowCount(), 4);
+        EXPECT_EQ(table.index(0, 2).data().toString(), QStringLiteral("Somebody New"));
         EXPECT_EQ(table.index(1, 1).data().toString(), QStringLiteral("Changed"));
         EXPECT_EQ(table.index(1, 4).data().toString(), QStringLiteral("time"));
         find<QRadioButton>(choice, dialog)->setChecked(true);

@@ -12,10 +12,20 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace kestrav::desktop
 {
 
-TMergePreviewDlg::TMergePreviewDlg(const data::MergePreview& preview, const present::Table& table,
+namespace
+{
+
+// New, changed or equal.
+constexpr int kKindColumn = 1;
+
+} // namespace
+
+TMergePreviewDlg::TMergePreviewDlg(const data::MergePreview& preview, present::Table table,
                                    const std::filesystem::path& theirs,
                                    const std::filesystem::path& ours, QWidget* parent)
     : QDialog(parent), newCharts_(preview.count(data::MergeKind::New)),
@@ -40,7 +50,9 @@ TMergePreviewDlg::TMergePreviewDlg(const data::MergePreview& preview, const pres
     view->setObjectName(QStringLiteral("PreviewTable"));
     view->setAccessibleName(tr("Charts of the other database"));
     view->setFrameShape(QFrame::StyledPanel);
-    view->setTable(table);
+    view->setTable(std::move(table));
+    // What is equal stands last, as there may be thousands of it.
+    view->sortByColumn(kKindColumn, Qt::AscendingOrder);
 
     auto* const group = new QGroupBox(tr("Changed charts"), this);
     auto* const groupBox = new QVBoxLayout(group);

@@ -19,7 +19,7 @@ class TMergePreviewDlg : public QDialog
     Q_OBJECT
 
 public:
-    TMergePreviewDlg(const data::MergePreview& preview, const present::Table& table,
+    TMergePreviewDlg(const data::MergePreview& preview, present::Table table,
                      const std::filesystem::path& theirs, const std::filesystem::path& ours,
                      QWidget* parent);
 
