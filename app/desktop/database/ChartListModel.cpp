@@ -102,7 +102,9 @@ int ChartListModel::columnCount(const QModelIndex& parent) const
 
 QVariant ChartListModel::data(const QModelIndex& index, int role) const
 {
-    if (!index.isValid() || index.row() >= rowCount()) {
+    // A row that is about to be removed may be that of the end.
+    if (!index.isValid() || index.row() >= rowCount() ||
+        shown_[std::size_t(index.row())] >= database_.list().rows.size()) {
         return {};
     }
     const data::ChooserRow& row = rowAt(index.row());
@@ -190,9 +192,9 @@ QVariant ChartListModel::headerData(int section, Qt::Orientation orientation, in
 
 Qt::ItemFlags ChartListModel::flags(const QModelIndex& index) const
 {
-    Qt::ItemFlags flags = QAbstractTableModel::flags(index) | Qt::ItemNeverHasChildren;
+    Qt::ItemFlags flags = QAbstractTableModel::flags(index);
     if (index.isValid()) {
-        flags |= Qt::ItemIsDragEnabled;
+        flags |= Qt::ItemIsDragEnabled | Qt::ItemNeverHasChildren;
     }
     return index.column() == NameColumn ? flags | Qt::ItemIsEditable : flags;
 }
@@ -337,15 +339,14 @@ void ChartListModel::removeRowOf(std::size_t row)
     const auto shown = std::find(shown_.begin(), shown_.end(), row);
     const bool visible = shown != shown_.end();
     const int place = int(shown - shown_.begin());
-    if (visible) {
-        beginRemoveRows({}, place, place);
-        shown_.erase(shown);
-    }
     keys_.erase(keys_.begin() + std::ptrdiff_t(row));
+    // The database has done without the row already; the others must be right before it goes here.
     for (std::size_t& other : shown_) {
         other -= other > row ? 1 : 0;
     }
     if (visible) {
+        beginRemoveRows({}, place, place);
+        shown_.erase(shown_.begin() + place);
         endRemoveRows();
     }
     if (!movesAlone()) {
