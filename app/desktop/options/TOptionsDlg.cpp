@@ -92,6 +92,8 @@ TOptionsDlg::TOptionsDlg(TKSVform1& window, QWidget* parent)
     buttons_->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("CancelButton"));
     buttons_->button(QDialogButtonBox::Apply)->setObjectName(QStringLiteral("ApplyButton"));
     buttons_->button(QDialogButtonBox::Help)->setObjectName(QStringLiteral("HelpButton"));
+    // The box would hand the focus to its first button, and Tab would pass by what stands between.
+    buttons_->setFocusProxy(nullptr);
     connect(buttons_, &QDialogButtonBox::accepted, this, &TOptionsDlg::OkButtonClick);
     connect(buttons_, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(buttons_->button(QDialogButtonBox::Apply), &QPushButton::clicked, this,

@@ -140,6 +140,15 @@ TPageLayoutDlg::TPageLayoutDlg(present::PageLayout layout, QWidget* parent)
     lines->addWidget(button(tr("&Join Cells"), "JoinButton", [this] { JoinButtonClick(); }));
     lines->addWidget(button(tr("&Split Cell"), "SplitButton", [this] { SplitButtonClick(); }));
 
+    // The buttons below the grid come before the fields below them.
+    QWidget* before = grid_;
+    for (int i = 0; i < lines->count(); ++i) {
+        if (QWidget* const next = lines->itemAt(i)->widget()) {
+            setTabOrder(before, next);
+            before = next;
+        }
+    }
+
     auto* const form = new QFormLayout;
     form->addRow(tr("&Panel:"), content_);
     form->addRow(tr("&Divisional chart:"), varga_);

@@ -91,6 +91,8 @@ TPrintPreviewForm::TPrintPreviewForm(PaperDocument document, Workspace& workspac
     pdf->setObjectName(QStringLiteral("PdfButton"));
     connect(print, &QPushButton::clicked, this, &TPrintPreviewForm::PrintButtonClick);
     connect(pdf, &QPushButton::clicked, this, &TPrintPreviewForm::PdfButtonClick);
+    // The box would hand the focus to its first button, and Tab would pass by what stands between.
+    buttons->setFocusProxy(nullptr);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* const box = new QVBoxLayout(this);
     box->addLayout(bar);

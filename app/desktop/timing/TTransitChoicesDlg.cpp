@@ -105,6 +105,8 @@ TTransitChoicesDlg::TTransitChoicesDlg(Workspace& workspace, QWidget* parent)
     auto* const usual = buttons_->addButton(tr("&Usual Choices"), QDialogButtonBox::ResetRole);
     usual->setObjectName(QStringLiteral("UsualButton"));
     connect(usual, &QPushButton::clicked, this, &TTransitChoicesDlg::UsualButtonClick);
+    // The box would hand the focus to its first button, and Tab would pass by what stands between.
+    buttons_->setFocusProxy(nullptr);
     connect(buttons_, &QDialogButtonBox::accepted, this, &TTransitChoicesDlg::OkButtonClick);
     connect(buttons_, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* const layout = new QVBoxLayout(this);

@@ -45,6 +45,12 @@ YogaTreePane::YogaTreePane(YogaDesk& desk, QWidget* parent)
     tree_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     tree_->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
     setFocusProxy(tree_);
+    // Tab comes to the tree by way of the pane, so that what stands above it has to follow.
+    setTabOrder(tree_, filter_);
+    setTabOrder(filter_, onlyHolding_);
+    setTabOrder(onlyHolding_, sorted_);
+    setTabOrder(sorted_, expand);
+    setTabOrder(expand, contract);
     auto* const box = new QVBoxLayout(this);
     box->setContentsMargins({});
     box->addWidget(filter_);
