@@ -57,7 +57,10 @@ QList<QAction*> HeatPanel::panelActions()
 std::vector<present::Block> HeatPanel::blocks()
 {
     refreshNow();
-    return {view_->table()};
+    if (view_->table().columns.empty()) {
+        return {present::Paragraph{toWide(note_->text())}};
+    }
+    return {view_->shownTable()};
 }
 
 void HeatPanel::refresh()
@@ -67,10 +70,8 @@ void HeatPanel::refresh()
     legend_->setVisible(shown != nullptr);
     note_->setVisible(shown == nullptr);
     note_->setText(tr("No chart is open."));
-    if (shown) {
-        view_->setTable(present::heatTable(*shown));
-        showLegend();
-    }
+    view_->setTable(shown ? present::heatTable(*shown) : present::Table());
+    showLegend();
 }
 
 // Shades stand for the words that the table itself has, from the worst to the best.

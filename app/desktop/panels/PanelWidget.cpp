@@ -4,6 +4,7 @@
 #include "app/desktop/database/OpenDatabase.h"
 #include "app/desktop/shell/Convert.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QShowEvent>
 #include <QTimer>
@@ -20,6 +21,17 @@ namespace
 constexpr int kSmallestZoom = 50;
 constexpr int kLargestZoom = 400;
 
+// A font without a size of its own follows that of the program.
+void takeZoom(QWidget& panel, int zoom)
+{
+    QFont font;
+    if (zoom != 100) {
+        font = QApplication::font();
+        font.setPointSizeF(font.pointSizeF() * zoom / 100.0);
+    }
+    panel.setFont(font);
+}
+
 } // namespace
 
 QString vargaTitle(int varga)
@@ -35,7 +47,12 @@ PanelWidget::PanelWidget(Workspace& workspace, present::Panel panel, QWidget* pa
     connect(&workspace, &Workspace::momentChanged, this, [this] { whenChanged(OnMoment); });
     connect(&workspace, &Workspace::selectionChanged, this, [this] { whenChanged(OnSelection); });
     connect(&workspace, &Workspace::yogasChanged, this, [this] { whenChanged(OnYogas); });
-    connect(&workspace, &Workspace::settingsChanged, this, [this] { whenChanged(OnSettings); });
+    connect(&workspace, &Workspace::settingsChanged, this, [this] {
+        if (zoom_ != 100) {
+            takeZoom(*this, zoom_); // the letters of the program may have changed
+        }
+        whenChanged(OnSettings);
+    });
     connect(&workspace.database(), &OpenDatabase::reset, this, [this] { whenChanged(OnDatabase); });
     dependOn(OnChart);
 }
@@ -87,9 +104,7 @@ void PanelWidget::setZoom(int percent)
         return;
     }
     zoom_ = zoom;
-    QFont font = parentWidget() != nullptr ? parentWidget()->font() : QFont();
-    font.setPointSizeF(font.pointSizeF() * zoom_ / 100.0);
-    setFont(font);
+    takeZoom(*this, zoom_);
     markDue();
 }
 

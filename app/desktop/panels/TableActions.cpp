@@ -21,8 +21,9 @@ QList<QAction*> tableActions(QWidget* owner, Workspace& workspace,
     auto* const save =
         new QAction(QCoreApplication::translate("TableActions", "Sa&ve Table..."), owner);
     save->setObjectName(QStringLiteral("SaveTableAction"));
-    QObject::connect(save, &QAction::triggered, owner,
-                     [owner, &workspace, seen] { saveTableAs(seen()->table(), workspace, owner); });
+    QObject::connect(save, &QAction::triggered, owner, [owner, &workspace, seen] {
+        saveTableAs(seen()->shownTable(), workspace, owner);
+    });
     return {copy, save};
 }
 

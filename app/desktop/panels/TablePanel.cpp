@@ -42,15 +42,15 @@ bool belongsToVarga(std::string_view id)
 
 bool dependsOnMoment(std::string_view id)
 {
-    static constexpr std::array<std::string_view, 9> kOfMoment = {
-        "running-dashas",   "transits",    "transit-kakshyas", "sade-sati",      "ephemeris",
-        "ephemeris-events", "moon-phases", "eclipses",         "eclipsed-points"};
+    static constexpr std::array<std::string_view, 10> kOfMoment = {
+        "running-dashas",   "transits",    "transit-kakshyas", "sade-sati",       "ephemeris",
+        "ephemeris-events", "moon-phases", "eclipses",         "eclipsed-points", "yogas"};
     return std::find(kOfMoment.begin(), kOfMoment.end(), id) != kOfMoment.end();
 }
 
 bool comparesCharts(std::string_view id)
 {
-    return id == "kutas" || id == "doshas";
+    return id == "kutas" || id == "doshas" || id == "compare" || id == "compare-back";
 }
 
 // Everything that a table is made from, held together for a worker.
@@ -142,7 +142,7 @@ std::vector<present::Block> TablePanel::blocks()
     if (view_->table().columns.empty()) {
         return {present::Paragraph{toWide(note_->text())}};
     }
-    return {view_->table()};
+    return {view_->shownTable()};
 }
 
 bool TablePanel::hasVarga() const
@@ -177,6 +177,9 @@ void TablePanel::show(core::Result<present::Table> made)
         note = tr("Not computed: %1").arg(toQt(made.error().text()));
         whole_ = {};
         view_->setTable({});
+        if (!std::exchange(title_, QString()).isEmpty()) {
+            emit captionChanged();
+        }
     } else {
         QStringList notes;
         for (const std::wstring& line : made.value().notes) {
@@ -200,6 +203,8 @@ void TablePanel::show(core::Result<present::Table> made)
 void TablePanel::chooseShownColumns()
 {
     if (!whole_.columns.empty() && chooseColumns(whole_, this)) {
+        // The column by which the rows are sorted may be another one now, or none.
+        view_->sortByColumn(-1, Qt::AscendingOrder);
         view_->setTable(withColumns(whole_, shownColumns(whole_.id, whole_.columns.size())));
     }
 }

@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <memory>
 #include <set>
+#include <utility>
 
 namespace kestrav::desktop
 {
@@ -43,9 +44,10 @@ TableView::TableView(QWidget* parent) : QTableView(parent), model_(new TableMode
     });
 }
 
-void TableView::setTable(const present::Table& table)
+void TableView::setTable(present::Table given)
 {
-    model_->setTable(table);
+    model_->setTable(std::move(given));
+    const present::Table& table = model_->table();
     if (!table.title.empty() || accessibleName().isEmpty()) {
         setAccessibleName(table.title.empty() ? tr("Table") : toQt(table.title));
     }
@@ -60,6 +62,11 @@ void TableView::setTable(const present::Table& table)
 const present::Table& TableView::table() const
 {
     return model_->table();
+}
+
+present::Table TableView::shownTable() const
+{
+    return model_->sortedTable();
 }
 
 void TableView::fitColumns()
@@ -90,7 +97,12 @@ void TableView::copy() const
     const auto addLine = [&](const auto& cells, auto textOf) {
         QStringList words;
         for (const auto& cell : cells) {
-            words += toQt(textOf(cell)).trimmed();
+            // A tab or line end inside a cell would move what follows it.
+            QString word = toQt(textOf(cell)).trimmed();
+            for (const char end : {'\t', '\n', '\r'}) {
+                word.replace(QLatin1Char(end), QLatin1Char(' '));
+            }
+            words += word;
         }
         text += words.join(QLatin1Char('\t')) + QLatin1Char('\n');
     };

@@ -19,8 +19,10 @@ class TableView : public QTableView
 public:
     explicit TableView(QWidget* parent = nullptr);
 
-    void setTable(const present::Table& table);
+    void setTable(present::Table given);
     [[nodiscard]] const present::Table& table() const;
+    /// The table with its rows in the order in which they are seen.
+    [[nodiscard]] present::Table shownTable() const;
     /// Puts what is selected, or everything, into the clipboard.
     void copy() const;
     /// Makes columns as wide as what they hold.

@@ -50,7 +50,7 @@ TextPanel::TextPanel(Workspace& workspace, present::Panel panel, QWidget* parent
     layout->setContentsMargins({});
     layout->addWidget(browser_);
     setFocusProxy(browser_);
-    dependOn(panel_.content == "yogas" ? OnChart | OnYogas : OnChart);
+    dependOn(panel_.content == "yogas" ? OnChart | OnYogas | OnMoment : OnChart);
 }
 
 QString TextPanel::title() const

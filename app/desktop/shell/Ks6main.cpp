@@ -51,6 +51,7 @@ constexpr int kZoomStep = 10;
 // A shared date so near to the present is not kept: the next start has a present of its own.
 constexpr double kPresentDays = 1.0;
 constexpr char kMomentKey[] = "window/moment";
+constexpr double kLastMoment = 1e7; ///< of a damaged memory; a Julian day in the year 22666
 
 // In heights of a line.
 constexpr int kWidth = 100;
@@ -191,7 +192,7 @@ void TKSVform1::makeOthers()
 
 void TKSVform1::makeViewMenu()
 {
-    const auto toggle = [this](QWidget* pane) {
+    const auto toggle = [](QWidget* pane) {
         if (pane != nullptr) {
             pane->setVisible(pane->isHidden());
         }
@@ -229,7 +230,7 @@ void TKSVform1::makeViewMenu()
                            change == 0 ? 100 : settings.fontPercent + change);
         workspace_.changeSettings(settings);
     };
-    addCommand(MenuName::View, {"ZoomInAction", tr("&Larger Letters"), QKeySequence(tr("Ctrl++"))},
+    addCommand(MenuName::View, {"ZoomInAction", tr("Lar&ger Letters"), QKeySequence(tr("Ctrl++"))},
                [zoom] { zoom(kZoomStep); });
     addCommand(MenuName::View,
                {"ZoomOutAction", tr("&Smaller Letters"), QKeySequence(tr("Ctrl+-"))},
@@ -239,7 +240,7 @@ void TKSVform1::makeViewMenu()
                [zoom] { zoom(0); });
     menu(MenuName::View)->addSeparator();
     addCommand(MenuName::View,
-               {"StepForwardAction", tr("Step For&ward"), QKeySequence(tr("Alt+Right"))},
+               {"StepForwardAction", tr("Step Forwa&rd"), QKeySequence(tr("Alt+Right"))},
                [this] { dateBar_->step(1); });
     addCommand(MenuName::View, {"StepBackAction", tr("Step &Back"), QKeySequence(tr("Alt+Left"))},
                [this] { dateBar_->step(-1); });
@@ -323,7 +324,7 @@ void TKSVform1::restoreSession()
     }
     bool kept = false;
     const double moment = state.value(kMomentKey).toDouble(&kept);
-    if (kept) {
+    if (kept && std::abs(moment) < kLastMoment) {
         workspace_.setMoment(moment);
     }
 }

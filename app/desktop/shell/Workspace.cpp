@@ -211,6 +211,7 @@ void Workspace::closeChart()
     chart_.reset();
     line_.reset();
     changed_.clear();
+    momentChart_.reset(); // it may have been at the place of the chart
     emit chartChanged();
 }
 

@@ -129,6 +129,8 @@ void TrialTimesPanel::refresh()
     if (!shown) {
         work_.cancel();
         note_->setText(tr("No chart is open."));
+        ascendants_->setTable({});
+        lords_->setTable({});
         return;
     }
     present::TrialTimes times;
