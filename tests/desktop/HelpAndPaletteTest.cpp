@@ -5,6 +5,8 @@
 #include "app/desktop/help/TQuickTipsDlg.h"
 #include "app/desktop/help/TShortcutsDlg.h"
 #include "app/desktop/pages/PageStrip.h"
+#include "app/desktop/pages/PageView.h"
+#include "app/desktop/pages/PanelCell.h"
 #include "app/desktop/palette/PaletteMatch.h"
 #include "app/desktop/palette/TPaletteDlg.h"
 #include "app/desktop/start/ProgramOptions.h"
@@ -13,11 +15,13 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QKeySequenceEdit>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QSignalSpy>
+#include <QTabBar>
 #include <QTableWidget>
 #include <QTextBrowser>
 
@@ -41,7 +45,27 @@ TEST_F(WindowTest, HelpOpensAtTheTopicOfWhatHasTheFocus)
     emit workspace().helpWanted(QStringLiteral("dashas"));
     EXPECT_EQ(form->page(), QStringLiteral("dashas.html"));
     form->close();
+    settle();
     EXPECT_GE(quickTips().size(), 20);
+
+    // From the strip of pages it is the page that is told about, from a caption its cell.
+    const auto topicFrom = [this](QWidget& focus) {
+        window().activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window()));
+        focus.setFocus();
+        EXPECT_EQ(QApplication::focusWidget(), &focus);
+        command("HelpAction");
+        auto* const opened = window().findChild<THelpForm*>();
+        const QString page = opened != nullptr ? opened->page() : QString();
+        delete opened;
+        return page;
+    };
+    window().pages().show(QStringLiteral("Dashas"));
+    settle();
+    EXPECT_EQ(topicFrom(*window().pages().findChild<QTabBar*>()), QStringLiteral("dashas.html"));
+    const PanelCell* const diagram = window().pages().page()->cells()[1];
+    EXPECT_EQ(topicFrom(*find<QComboBox>("VargaComboBox", diagram)),
+              QStringLiteral("diagrams.html"));
 }
 
 TEST_F(WindowTest, HelpIsSearchedFromPageToPage)

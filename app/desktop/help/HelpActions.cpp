@@ -4,6 +4,9 @@
 #include "app/desktop/help/THelpForm.h"
 #include "app/desktop/help/TQuickTipsDlg.h"
 #include "app/desktop/help/TShortcutsDlg.h"
+#include "app/desktop/pages/PageStrip.h"
+#include "app/desktop/pages/PageView.h"
+#include "app/desktop/pages/PanelCell.h"
 #include "app/desktop/panels/PanelWidget.h"
 #include "app/desktop/shell/Ks6main.h"
 
@@ -63,6 +66,9 @@ QString HelpActions::topicOfFocus() const
         if (const auto* const panel = qobject_cast<const PanelWidget*>(widget)) {
             return panel->helpName();
         }
+        if (const auto* const cell = qobject_cast<const PanelCell*>(widget)) {
+            return cell->panel()->helpName();
+        }
         const QVariant named = widget->property("helpTopic");
         if (named.isValid()) {
             return named.toString();
@@ -70,8 +76,17 @@ QString HelpActions::topicOfFocus() const
         if (qobject_cast<const QDialog*>(widget) != nullptr) {
             return widget->objectName();
         }
+        // The strip alone has little to tell; the page below it does.
+        if (widget == &window_.pages()) {
+            break;
+        }
+        if (qobject_cast<const TKSVform1*>(widget) != nullptr) {
+            return QStringLiteral("TKSVform1");
+        }
     }
-    return QStringLiteral("TKSVform1");
+    PageView* const page = window_.pages().page();
+    return page != nullptr && !page->cells().empty() ? page->cells().front()->panel()->helpName()
+                                                     : QStringLiteral("TKSVform1");
 }
 
 bool HelpActions::eventFilter(QObject* watched, QEvent* event)

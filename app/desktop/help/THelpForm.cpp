@@ -7,6 +7,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QShortcut>
 #include <QTextBrowser>
 #include <QTextDocument>
 #include <QToolButton>
@@ -58,6 +59,15 @@ THelpForm::THelpForm(QWidget* parent)
     box->addWidget(browser_, 1);
     connect(find_, &QLineEdit::returnPressed, this, &THelpForm::FindEditReturnPressed);
     connect(find_, &QLineEdit::textChanged, missing_, &QWidget::hide);
+    auto* const toFind = new QShortcut(QKeySequence::Find, this);
+    connect(toFind, &QShortcut::activated, find_, [this] {
+        find_->setFocus(Qt::ShortcutFocusReason);
+        find_->selectAll();
+    });
+    find_->setToolTip(
+        tr("Enter finds the next place (%1)")
+            .arg(QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText)));
+    browser_->setFocus();
     connect(browser_, &QTextBrowser::sourceChanged, this, [this] {
         const QString title = browser_->documentTitle();
         setWindowTitle(title.isEmpty() ? tr("Help") : tr("Help: %1").arg(title));
