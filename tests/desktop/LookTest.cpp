@@ -2,14 +2,20 @@
 #include "app/desktop/diagram/DiagramView.h"
 #include "app/desktop/diagram/DisplayListPainter.h"
 #include "app/desktop/pages/PageStrip.h"
+#include "app/desktop/pages/PageView.h"
+#include "app/desktop/pages/PanelCell.h"
 #include "app/desktop/palette/TPaletteDlg.h"
+#include "app/desktop/panels/PanelWidget.h"
 #include "tests/desktop/DesktopForTests.h"
 
 #include <QImage>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPainter>
 
+#include <algorithm>
+#include <cmath>
 #include <string>
 
 namespace kestrav::desktop
@@ -76,6 +82,24 @@ TEST_F(WindowTest, SmallDiagramsMakeColumnsBeforeLettersCannotBeRead)
         }
     }
     EXPECT_EQ(points, 10) << "and no point is left out";
+}
+
+TEST_F(WindowTest, CaptionsShareNarrowCellsWithTheirChoosers)
+{
+    window().resize(1024, 700);
+    for (const char* const name : {"Ashtakavarga", "Strength", "Events"}) {
+        ASSERT_TRUE(window().pages().show(QLatin1String(name)));
+        settle();
+        for (const PanelCell* const cell : window().pages().page()->cells()) {
+            if (cell->panel()->hasStyle()) {
+                continue; // its two choosers say what it shows
+            }
+            const auto* const caption = find<QLabel>("CaptionLabel", cell);
+            const int few = caption->fontMetrics().averageCharWidth() * 6;
+            EXPECT_GE(caption->width(), std::min(few, caption->sizeHint().width()))
+                << name << ": " << caption->text().toStdString();
+        }
+    }
 }
 
 TEST_F(WindowTest, PaletteTellsTheMenuAndTheKeysOfCommands)

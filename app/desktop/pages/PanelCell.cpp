@@ -29,7 +29,7 @@ constexpr int kZoomStep = 10;
 // What the chooser of divisions shows where there is room, and in a narrow cell; its list shows
 // everything.
 constexpr int kVargaLetters = 12;
-constexpr int kFewestLetters = 12;
+constexpr int kFewestLetters = 11;
 
 void leaveRoom(QComboBox& chooser)
 {
@@ -46,6 +46,14 @@ class CaptionText : public QLabel
 {
 public:
     using QLabel::QLabel;
+
+    // It shares a narrow bar with the choosers beside it; a short caption stays whole.
+    [[nodiscard]] QSize minimumSizeHint() const override
+    {
+        const QSize whole = QLabel::minimumSizeHint();
+        const int few = fontMetrics().averageCharWidth() * (kFewestOfCaption + 1);
+        return {whole.width() <= few ? whole.width() : 0, whole.height()};
+    }
 
 protected:
     void paintEvent(QPaintEvent* /*event*/) override
@@ -95,13 +103,13 @@ PanelCell::PanelCell(Workspace& workspace, const present::Panel& panel, QWidget*
     QFont bold = caption_->font();
     bold.setBold(true);
     caption_->setFont(bold);
-    caption_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    caption_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
 
     auto* const bar = new QHBoxLayout;
     const int gap = fontMetrics().height() / 4;
     bar->setContentsMargins(gap * 2, gap / 2, gap / 2, gap / 2);
     bar->setSpacing(gap);
-    bar->addWidget(caption_, 1);
+    bar->addWidget(caption_);
     if (panel_->hasVarga()) {
         varga_ = new QComboBox(this);
         varga_->setObjectName(QStringLiteral("VargaComboBox"));

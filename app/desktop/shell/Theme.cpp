@@ -94,6 +94,16 @@ public:
         setObjectName(QLatin1String(kStyleName));
     }
 
+    // Buttons of the program have words alone; pictures on the standard ones among them would set
+    // those apart.
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returned) const override
+    {
+        return hint == SH_DialogButtonBox_ButtonsHaveIcons
+                   ? 0
+                   : QProxyStyle::styleHint(hint, option, widget, returned);
+    }
+
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override
     {
