@@ -31,7 +31,13 @@ FlowLayout::FlowLayout(int gap)
     setSpacing(gap);
 }
 
-FlowLayout::~FlowLayout() = default;
+FlowLayout::~FlowLayout()
+{
+    // One by one: a layout that goes takes itself out of the one around it.
+    while (count() > 0) {
+        delete takeAt(0);
+    }
+}
 
 void FlowLayout::addTogether(std::initializer_list<QWidget*> widgets)
 {
