@@ -23,15 +23,29 @@ namespace kestrav::desktop
 namespace
 {
 
-// How many pixels of a row, or of a column, near its begin are neither paper nor background.
-int inkedNearBegin(const QImage& image, bool row, int along)
+// The pixels near the begin of a row, or of a column, that have the colour of the border, and those
+// that are between it and what lies beside it.
+struct Crossing
 {
-    const QRgb paper = row ? image.pixel(20, along) : image.pixel(along, 20);
-    int inked = 0;
+    int border = 0;
+    int between = 0;
+};
+
+Crossing crossingNearBegin(const QImage& image, bool row, int along)
+{
+    const auto pixel = [&](int across) {
+        return row ? image.pixel(across, along) : image.pixel(along, across);
+    };
+    const QRgb border =
+        toQt(present::colourOf(present::ColourRole::Border, present::ColourScheme::Light)).rgb();
+    Crossing crossing;
     for (int i = 0; i < 10; ++i) {
-        inked += (row ? image.pixel(i, along) : image.pixel(along, i)) != paper ? 1 : 0;
+        const QRgb colour = pixel(i);
+        crossing.border += colour == border ? 1 : 0;
+        crossing.between +=
+            colour != border && colour != pixel(20) && colour != qRgb(255, 255, 255) ? 1 : 0;
     }
-    return inked;
+    return crossing;
 }
 
 TEST_F(WindowTest, BordersOfDiagramsCoverWholePixels)
@@ -55,12 +69,11 @@ TEST_F(WindowTest, BordersOfDiagramsCoverWholePixels)
             painter.translate(0.3, 0.3);
             paintDisplayList(painter, list, window().font());
             painter.end();
-            const int middle = int(side * scale * 0.6);
-            const double wide = list.shapes.front().width * scale;
-            const int most = 1 + int(std::max(1.0, std::round(wide)));
-            // The background before the border counts as well, which is one pixel.
-            EXPECT_LE(inkedNearBegin(image, true, middle), most) << side << ' ' << scale;
-            EXPECT_LE(inkedNearBegin(image, false, middle), most) << side << ' ' << scale;
+            for (const bool row : {true, false}) {
+                const Crossing crossing = crossingNearBegin(image, row, int(side * scale * 0.6));
+                EXPECT_GE(crossing.border, 1) << side << ' ' << scale;
+                EXPECT_EQ(crossing.between, 0) << side << ' ' << scale;
+            }
         }
     }
 }
