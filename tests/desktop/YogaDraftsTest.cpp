@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTableWidget>
 #include <QTreeWidget>
 #include <QUndoStack>
 
@@ -182,6 +183,31 @@ TEST_F(YogaDraftsTest, OneEditIsOneStep)
     click("RedoYogaButton");
     EXPECT_EQ(find<QLineEdit>("TitleEdit", form_)->text(), "Moon strong");
     EXPECT_FALSE(find<QAction>("RedoYogaButton", form_)->isEnabled());
+}
+
+TEST_F(YogaDraftsTest, PartsOfARuleAreMovedSoThatBracketsReachItsBeginning)
+{
+    click("NewYogaButton");
+    auto* const text = find<QLineEdit>("RuleTextEdit", form_);
+    text->setFocus();
+    QTest::keyClicks(text, QStringLiteral("Retrograde,,Mar\\Retrograde,,Jup"));
+    QTest::keyClick(text, Qt::Key_Return);
+    settle();
+    auto* const list = find<QTableWidget>("RuleList", form_);
+    list->setFocus();
+    list->setCurrentCell(0, 0);
+    EXPECT_FALSE(find<QAction>("MoveUpButton", form_)->isEnabled());
+    click("OpenBracketButton");
+    QTest::keyClick(list, Qt::Key_Up, Qt::ControlModifier);
+    settle();
+    EXPECT_EQ(desk().yoga()->rule, "(\\Retrograde,,Mar\\Retrograde,,Jup");
+    EXPECT_EQ(list->currentRow(), 0) << "what was moved stays selected";
+    click("MoveDownButton");
+    click("MoveDownButton");
+    EXPECT_EQ(desk().yoga()->rule, "Retrograde,,Mar\\Retrograde,,Jup\\(");
+    EXPECT_FALSE(find<QAction>("MoveDownButton", form_)->isEnabled());
+    click("UndoYogaButton");
+    EXPECT_EQ(desk().yoga()->rule, "Retrograde,,Mar\\(\\Retrograde,,Jup");
 }
 
 TEST_F(YogaDraftsTest, PointsAreTypedByWordOrName)

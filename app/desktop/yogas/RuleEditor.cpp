@@ -140,6 +140,20 @@ void RuleEditor::makeActions()
                [this] { NegateButtonClick(); });
     removeAction_ = action(tr("&Remove"), "RemoveButton", tr("Takes the selected part away"),
                            [this] { RemoveButtonClick(); });
+    upAction_ =
+        action(tr("Move &Up"), "MoveUpButton",
+               tr("Moves the selected part before the one above it"), [this] { movePart(-1); });
+    upAction_->setIconText(QStringLiteral("\u2191"));
+    upAction_->setShortcut(QKeySequence(tr("Ctrl+Up")));
+    downAction_ =
+        action(tr("Move Do&wn"), "MoveDownButton",
+               tr("Moves the selected part behind the one below it"), [this] { movePart(1); });
+    downAction_->setIconText(QStringLiteral("\u2193"));
+    downAction_->setShortcut(QKeySequence(tr("Ctrl+Down")));
+    for (QAction* const moving : {upAction_, downAction_}) {
+        moving->setShortcutContext(Qt::WidgetShortcut);
+        list_->addAction(moving);
+    }
     deleteAction_ = action(tr("&Delete Rule"), "DeleteRuleButton", tr("Takes all parts away"),
                            [this] { DeleteRuleButtonClick(); });
 }
@@ -225,6 +239,8 @@ void RuleEditor::enableActions()
     editAction_->setEnabled(editable_ && condition);
     negateAction_->setEnabled(editable_ && condition);
     removeAction_->setEnabled(editable_ && selected);
+    upAction_->setEnabled(editable_ && selected && *selected > 0);
+    downAction_->setEnabled(editable_ && selected && *selected + 1 < edit_.tokens().size());
     deleteAction_->setEnabled(editable_ && !edit_.tokens().empty());
     notAction_->setChecked(edit_.notGiven());
     text_->setReadOnly(!editable_);
@@ -314,6 +330,21 @@ void RuleEditor::RemoveButtonClick()
     if (edit_.removeSelected()) {
         edited(tr("remove from rule"));
     }
+}
+
+// What is added stands behind the selected part; so a bracket comes before the first one.
+void RuleEditor::movePart(std::ptrdiff_t by)
+{
+    const auto selected = edit_.selected();
+    std::vector<std::string> tokens(edit_.tokens().begin(), edit_.tokens().end());
+    const std::ptrdiff_t to = std::ptrdiff_t(selected.value_or(0)) + by;
+    if (!selected || to < 0 || to >= std::ptrdiff_t(tokens.size())) {
+        return;
+    }
+    std::swap(tokens[*selected], tokens[std::size_t(to)]);
+    edit_ = yoga::RuleEdit(yoga::joinRule(tokens));
+    edit_.select(std::size_t(to));
+    edited(tr("move part"));
 }
 
 void RuleEditor::DeleteRuleButtonClick()

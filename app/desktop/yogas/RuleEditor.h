@@ -8,6 +8,7 @@
 #include <QList>
 #include <QWidget>
 
+#include <cstddef>
 #include <optional>
 #include <string>
 
@@ -66,6 +67,7 @@ private:
     void CloseBracketButtonClick();
     void NegateButtonClick();
     void RemoveButtonClick();
+    void movePart(std::ptrdiff_t by);
     void DeleteRuleButtonClick();
     void RuleEditEditingFinished();
     void add(const QString& what, core::Result<void> (yoga::RuleEdit::*command)());
@@ -89,6 +91,8 @@ private:
     QAction* notAction_ = nullptr;
     QAction* negateAction_ = nullptr;
     QAction* removeAction_ = nullptr;
+    QAction* upAction_ = nullptr;
+    QAction* downAction_ = nullptr;
     QAction* deleteAction_ = nullptr;
 };
 
