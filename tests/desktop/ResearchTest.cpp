@@ -1,4 +1,5 @@
 // The research table, and the columns of tables.
+#include "app/desktop/database/ResearchActions.h"
 #include "app/desktop/pages/PageStrip.h"
 #include "app/desktop/panels/PanelWidget.h"
 #include "app/desktop/panels/ShownColumns.h"
@@ -15,9 +16,12 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPushButton>
 #include <QTimer>
 #include <QToolButton>
 
+#include <filesystem>
+#include <fstream>
 #include <numeric>
 
 namespace kestrav::desktop
@@ -35,11 +39,16 @@ TEST_F(WindowTest, ResearchTableListsGroupsAndDraws)
 {
     ASSERT_TRUE(window().pages().show(QStringLiteral("Research")));
     settle();
-    EXPECT_EQ(find<QLabel>("ResearchLabel")->text(),
+    EXPECT_EQ(find<QLabel>("PurposeTitle")->text(),
               toQt(data::researchStateText(data::ResearchState::Missing)));
-    find<QToolButton>("RefreshButton", find<QWidget>("ResearchPanel"))->click();
+    EXPECT_TRUE(find<QLabel>("PurposeLabel")->text().contains(QStringLiteral("Sample.txt")));
+    EXPECT_FALSE(find<QComboBox>("ShowComboBox")->isVisible()) << "there is nothing to choose from";
+    auto* const make = find<QPushButton>("MakeResearchButton");
+    ASSERT_TRUE(make->isVisible());
+    QTest::mouseClick(make, Qt::LeftButton);
     settle();
     settle();
+    EXPECT_FALSE(make->isVisible());
     const std::size_t count = workspace().database().charts().size();
     auto* const table = find<TableView>("ResearchView");
     ASSERT_EQ(table->table().rows.size(), count);
@@ -106,6 +115,37 @@ TEST_F(WindowTest, ResearchTableListsGroupsAndDraws)
     settle();
     EXPECT_EQ(ResearchDesk::of(workspace()).research()->state,
               data::ResearchState::SettingsChanged);
+}
+
+// Both ways to refresh are one: it shows on the page and labels the list of charts.
+TEST_F(WindowTest, ResearchMadeAnywhereIsSeenEverywhere)
+{
+    ASSERT_TRUE(window().pages().show(QStringLiteral("Research")));
+    settle();
+    auto* const actions = window().findChild<ResearchActions*>();
+    ASSERT_NE(actions, nullptr);
+    int told = 0;
+    QObject::connect(actions, &ResearchActions::refreshed, actions, [&told] { ++told; });
+    QTest::mouseClick(find<QPushButton>("MakeResearchButton"), Qt::LeftButton);
+    settle();
+    EXPECT_EQ(told, 1);
+    EXPECT_TRUE(std::filesystem::exists(data::researchPath(sample_)));
+
+    TMessages::prepare(core::Answer::Ok);
+    command("RefreshResearchAction");
+    settle();
+    EXPECT_EQ(TMessages::takeShown().size(), 1U);
+    EXPECT_EQ(told, 2);
+    EXPECT_EQ(find<TableView>("ResearchView")->table().rows.size(),
+              workspace().database().charts().size());
+    EXPECT_EQ(ResearchDesk::of(workspace()).research()->state, data::ResearchState::Fresh);
+
+    // A text file of the user's own is never written over, and no button offers it.
+    std::ofstream(data::researchPath(sample_)) << "a letter\n";
+    ResearchDesk::of(workspace()).read();
+    settle();
+    EXPECT_TRUE(find<QLabel>("PurposeTitle")->isVisible());
+    EXPECT_FALSE(find<QPushButton>("MakeResearchButton")->isVisible());
 }
 
 TEST_F(WindowTest, TablesShowTheChosenColumns)

@@ -11,7 +11,9 @@
 
 #include <QAbstractItemModelTester>
 #include <QAction>
+#include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDialog>
 #include <QDialogButtonBox>
@@ -20,6 +22,7 @@
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QToolButton>
 #include <QTreeView>
 
@@ -236,6 +239,19 @@ TEST_F(TimingPageTest, TransitsAreListedFilteredAndChosen)
     settle();
     EXPECT_TRUE(find<QLabel>("DaysLabel", panel)->text().startsWith("2026-02-14"))
         << clicked.toStdString();
+
+    // What is copied is the table that is seen.
+    auto* const tabs = find<QTabWidget>("TransitTabs", panel);
+    for (const auto& [index, name] : {std::pair(1, "KakshyaTable"), std::pair(0, "TransitTable")}) {
+        tabs->setCurrentIndex(index);
+        find<QAction>("CopyTableAction", panel)->trigger();
+        QStringList headings;
+        for (const present::Column& column : find<TableView>(name, panel)->table().columns) {
+            headings += toQt(column.heading).trimmed();
+        }
+        EXPECT_EQ(QApplication::clipboard()->text().section('\n', 0, 0).toStdString(),
+                  headings.join('\t').toStdString());
+    }
 
     command("TransitChoicesAction");
     auto* const dialog = find<QDialog>("TTransitChoicesDlg");

@@ -1,6 +1,7 @@
 #include "app/desktop/research/NativesPanel.h"
 
 #include "app/desktop/database/OpenDatabase.h"
+#include "app/desktop/panels/FlowLayout.h"
 #include "app/desktop/panels/TableActions.h"
 #include "app/desktop/panels/TableModel.h"
 #include "app/desktop/panels/TableView.h"
@@ -13,7 +14,6 @@
 #include "data/ResearchLine.h"
 
 #include <QAction>
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QLabel>
@@ -84,10 +84,12 @@ NativesPanel::NativesPanel(Workspace& workspace, present::Panel panel, QWidget* 
     group_->setObjectName(QStringLiteral("GroupBButton"));
     group_->setDefaultAction(groupB);
 
-    auto* const buttons = new QHBoxLayout;
+    const int gap = fontMetrics().height() / 3;
+    auto* const buttons = new FlowLayout(gap);
+    buttons->setContentsMargins({});
     buttons->addWidget(searchButton);
     buttons->addWidget(group_);
-    buttons->addStretch(1);
+    buttons->addStretch();
     buttons->addWidget(bar_);
     auto* const parts = new QSplitter(Qt::Vertical, this);
     parts->setObjectName(QStringLiteral("NativesSplitter"));
@@ -97,7 +99,6 @@ NativesPanel::NativesPanel(Workspace& workspace, present::Panel panel, QWidget* 
     parts->setStretchFactor(1, 2);
     parts->setChildrenCollapsible(false);
     auto* const box = new QVBoxLayout(this);
-    const int gap = fontMetrics().height() / 3;
     box->setContentsMargins(gap, gap, gap, gap);
     box->addLayout(buttons);
     box->addWidget(note_);

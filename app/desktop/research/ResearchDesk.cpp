@@ -2,9 +2,12 @@
 
 #include "app/desktop/database/OpenDatabase.h"
 #include "app/desktop/database/SettledMessages.h"
+#include "app/desktop/database/TProgressDlg.h"
 #include "app/desktop/shell/Convert.h"
 #include "app/desktop/shell/TMessages.h"
 #include "app/desktop/shell/Workspace.h"
+#include "core/FileText.h"
+#include "data/CheckDatabaseLine.h"
 #include "data/DatabaseMessages.h"
 #include "data/ResearchRebuild.h"
 
@@ -18,14 +21,7 @@ namespace kestrav::desktop
 namespace
 {
 
-// What a worker built of the lines of a database.
-struct Rebuilt
-{
-    data::ChartDatabase charts;
-    core::Settings settings;
-    std::vector<NotedMessages::Said> said;
-    std::optional<data::ResearchLines> lines;
-};
+constexpr std::size_t kLinesBetweenLooks = 1024;
 
 data::LineList listOf(const data::ResearchLines& lines)
 {
@@ -37,6 +33,51 @@ data::LineList listOf(const data::ResearchLines& lines)
 }
 
 } // namespace
+
+// What one refreshing works on: a copy of the charts, so that the window's own stay untouched.
+struct ResearchDesk::Run
+{
+    data::ChartDatabase charts;
+    core::Settings settings;
+    DataPointer data;
+    Then then;
+    NotedMessages said; ///< of damaged lines
+    std::optional<data::ResearchLines> lines;
+    std::optional<core::Error> problem;
+
+    // Finds the damaged lines, which are told on the window's thread afterwards. Charts without a
+    // name are called "No Name" as if the user had agreed to it.
+    void walk(const WorkHandle& handle)
+    {
+        for (std::size_t i = 0; i < charts.size(); ++i) {
+            if (i % kLinesBetweenLooks == 0) {
+                if (handle.cancelled()) {
+                    return;
+                }
+                handle.progress(0, charts.size());
+            }
+            bool cancelled = false;
+            static_cast<void>(data::testLine(charts, i, said, cancelled));
+        }
+    }
+
+    void build(const WorkHandle& handle)
+    {
+        data::LongWork work;
+        work.cancel = handle.cancelFlag();
+        work.progress = [&handle](std::size_t done, std::size_t total) {
+            handle.progress(done, total);
+        };
+        // What is wrong with the lines has been told.
+        NotedMessages told;
+        lines = data::rebuildResearch(charts, settings, data->series, told, work);
+        if (lines) {
+            if (const auto saved = data::saveResearch(charts, settings, *lines); !saved) {
+                problem = saved.error();
+            }
+        }
+    }
+};
 
 ResearchDesk& ResearchDesk::of(Workspace& workspace)
 {
@@ -132,52 +173,75 @@ void ResearchDesk::ask(const Then& then)
 
 void ResearchDesk::refresh(Then then)
 {
-    if (workspace_.database().path().empty()) {
-        workspace_.tellProblem(tr("No database is open."));
+    if (box_ && box_->work().running()) {
         return;
     }
-    const auto build = [charts = workspace_.database().charts(), settings = workspace_.settings(),
-                        data = workspace_.data()](const WorkHandle& handle) mutable {
-        NotedMessages noted;
-        data::LongWork work;
-        work.progress = [&](std::size_t done, std::size_t total) {
-            handle.progress(done, total);
-        };
-        work.cancel = handle.cancelFlag();
-        auto built = std::make_shared<Rebuilt>();
-        built->lines = data::rebuildResearch(charts, settings, data->series, noted, work);
-        built->charts = std::move(charts);
-        built->settings = settings;
-        built->said = noted.said();
-        return built;
-    };
-    work_.start(build, [this, then = std::move(then)](const std::shared_ptr<Rebuilt>& built) {
+    // The research file stands beside the database, so there has to be a place for both.
+    if (!workspace_.database().writable() && (!place_.find || !place_.find())) {
+        return;
+    }
+    work_.cancel();
+    auto run = std::make_shared<Run>();
+    run->charts = workspace_.database().charts();
+    run->settings = workspace_.settings();
+    run->data = workspace_.data();
+    run->then = std::move(then);
+    box_ = new TProgressDlg(tr("Looking through the charts"), {}, place_.window);
+    box_->work().start(
+        [run](const WorkHandle& handle) {
+            run->walk(handle);
+            return run;
+        },
+        [this](const std::shared_ptr<Run>& walked) {
+            TMessages messages;
+            if (!repeat(walked->said.said(), messages)) {
+                workspace_.tell(tr("The research database was not changed."));
+                return;
+            }
+            keepNames(walked->charts);
+            build(walked);
+        });
+}
+
+void ResearchDesk::build(const std::shared_ptr<Run>& run)
+{
+    box_ = new TProgressDlg(
+        tr("Refreshing the research database"),
+        [](std::size_t count) { return toQt(data::updateCount(count)); }, place_.window);
+    box_->work().start(
+        [run](const WorkHandle& handle) {
+            run->build(handle);
+            return run;
+        },
+        [this](const std::shared_ptr<Run>& built) { finish(*built); });
+}
+
+void ResearchDesk::finish(Run& run)
+{
+    if (run.problem) {
         TMessages messages;
-        if (!built->lines || !repeat(built->said, messages)) {
-            workspace_.tell(tr("The research database was not changed."));
-            return;
-        }
-        keepNames(built->charts);
-        if (const auto saved = data::saveResearch(built->charts, built->settings, *built->lines);
-            !saved) {
-            messages.notice(data::kErrorCaption,
-                            data::kSavingError +
-                                (L" " + core::fromFileBytes(saved.error().text())));
-            return;
-        }
-        auto fresh = std::make_shared<ResearchData>();
-        fresh->lines = listOf(*built->lines);
-        fresh->charts = built->charts;
-        fresh->settings = built->settings;
-        fresh->state = data::ResearchState::Fresh;
-        research_ = std::move(fresh);
-        workspace_.tell(tr("The research database is fresh: %1.")
-                            .arg(toQt(data::updateCount(research_->lines.size()))));
-        emit changed();
-        if (then) {
-            then(research_);
-        }
-    });
+        messages.notice(data::kErrorCaption,
+                        data::kSavingError + (L" " + core::fromFileBytes(run.problem->text())));
+        return;
+    }
+    if (!run.lines) {
+        return;
+    }
+    auto fresh = std::make_shared<ResearchData>();
+    fresh->lines = listOf(*run.lines);
+    fresh->charts = std::move(run.charts);
+    fresh->settings = run.settings;
+    fresh->state = data::ResearchState::Fresh;
+    // A look at the lines that were there before must not come after them.
+    work_.cancel();
+    research_ = std::move(fresh);
+    workspace_.tell(
+        tr("The research database has been refreshed: %1 lines").arg(research_->lines.size()));
+    emit changed();
+    emit refreshed();
+    if (run.then) {
+        run.then(research_);
+    }
 }
 
 // Charts without a name have one in their research lines, so that they get it in the database too.

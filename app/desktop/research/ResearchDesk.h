@@ -9,13 +9,18 @@
 #include "data/ResearchDatabase.h"
 
 #include <QObject>
+#include <QPointer>
 
 #include <functional>
 #include <memory>
+#include <utility>
+
+class QWidget;
 
 namespace kestrav::desktop
 {
 
+class TProgressDlg;
 class Workspace;
 
 /// Research lines with the charts to which they belong.
@@ -56,22 +61,43 @@ public:
     /// is asked whether to refresh them; who does not want to goes on with what there is. Where
     /// there is nothing, or no database is open, the news tell it.
     void prepare(Then then);
-    /// Builds and writes them anew and then goes on, if there is something to go on with.
+    /// Builds and writes them anew, behind a box with Cancel, and then goes on, if there is
+    /// something to go on with. A database whose folder cannot be written is saved under another
+    /// name first.
     void refresh(Then then = {});
+
+    /// Where questions and boxes of the desk belong.
+    struct Place
+    {
+        QWidget* window = nullptr;
+        std::function<bool()> find; ///< asks where to save the database; false when it was not
+    };
+    void setPlace(Place place)
+    {
+        place_ = std::move(place);
+    }
 
 signals:
     void changed();
+    /// A new research file stands beside the database.
+    void refreshed();
 
 private:
     explicit ResearchDesk(Workspace& workspace);
 
+    struct Run;
+
     void load(Then then);
     void ask(const Then& then);
+    void build(const std::shared_ptr<Run>& run);
+    void finish(Run& run);
     void keepNames(const data::ChartDatabase& named);
 
     Workspace& workspace_;
     BackgroundWork work_;
     ResearchPointer research_;
+    Place place_;
+    QPointer<TProgressDlg> box_; ///< while lines are built
 };
 
 } // namespace kestrav::desktop

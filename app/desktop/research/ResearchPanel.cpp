@@ -1,18 +1,19 @@
 #include "app/desktop/research/ResearchPanel.h"
 
 #include "app/desktop/database/OpenDatabase.h"
+#include "app/desktop/panels/FlowLayout.h"
 #include "app/desktop/panels/TColumnsDlg.h"
-#include "app/desktop/panels/TableExport.h"
+#include "app/desktop/panels/TableActions.h"
 #include "app/desktop/panels/TableModel.h"
 #include "app/desktop/panels/TableView.h"
 #include "app/desktop/research/BarChartView.h"
+#include "app/desktop/research/ResearchPurpose.h"
 #include "app/desktop/shell/Convert.h"
 #include "app/desktop/shell/StateFile.h"
 #include "app/desktop/shell/WorkBar.h"
 
 #include <QAction>
 #include <QComboBox>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QScrollArea>
 #include <QSpinBox>
@@ -95,13 +96,16 @@ struct ResearchPanel::Request
 
 ResearchPanel::ResearchPanel(Workspace& workspace, present::Panel panel, QWidget* parent)
     : PanelWidget(workspace, std::move(panel), parent), desk_(ResearchDesk::of(workspace)),
-      findings_(YogaFindings::of(workspace)), show_(new QComboBox(this)), by_(new QComboBox(this)),
-      average_(new QComboBox(this)), bars_(new QSpinBox(this)), charts_(new QComboBox(this)),
-      byLabel_(new QLabel(tr("&by"), this)), averageLabel_(new QLabel(tr("a&verage of"), this)),
+      findings_(YogaFindings::of(workspace)),
+      refreshAction_(new QAction(tr("&Refresh Research Database"), this)),
+      show_(new QComboBox(this)), by_(new QComboBox(this)), average_(new QComboBox(this)),
+      bars_(new QSpinBox(this)), charts_(new QComboBox(this)),
+      byLabel_(new QLabel(tr("&by"), this)), averageLabel_(new QLabel(tr("avera&ge of"), this)),
       barsLabel_(new QLabel(tr("ba&rs"), this)), columnsButton_(new QToolButton(this)),
       refreshButton_(new QToolButton(this)), note_(new QLabel(this)), count_(new QLabel(this)),
       stack_(new QStackedWidget(this)), table_(new TableView(this)), chart_(new BarChartView(this)),
-      bar_(new WorkBar(desk_.work(), this))
+      bar_(new WorkBar(desk_.work(), this)), choosers_(new QWidget(this)),
+      purpose_(new ResearchPurpose(refreshAction_, this))
 {
     setObjectName(QStringLiteral("ResearchPanel"));
     columns_ = columnsOf(stateOfWindow().value(kColumnsKey, usualColumns()).toStringList());
@@ -123,37 +127,36 @@ ResearchPanel::ResearchPanel(Workspace& workspace, present::Panel panel, QWidget
     connect(columnsAction_, &QAction::triggered, this, &ResearchPanel::ColumnsActionTriggered);
     openAction_ = new QAction(tr("&Open Chart"), this);
     connect(openAction_, &QAction::triggered, this, &ResearchPanel::openRow);
-    auto* const refreshAction = new QAction(tr("&Refresh Research Database"), this);
-    connect(refreshAction, &QAction::triggered, this, &ResearchPanel::RefreshButtonClick);
-    auto* const copy = new QAction(tr("Copy &Table"), this);
-    connect(copy, &QAction::triggered, table_, &TableView::copy);
-    auto* const save = new QAction(tr("&Save Table..."), this);
-    connect(save, &QAction::triggered, this,
-            [this] { saveTableAs(table_->table(), this->workspace(), this); });
-    actions_ = {columnsAction_, openAction_, refreshAction, copy, save};
+    connect(refreshAction_, &QAction::triggered, this, &ResearchPanel::RefreshButtonClick);
+    actions_ = {columnsAction_, openAction_, refreshAction_};
+    actions_ += tableActions(this, workspace, table_);
     columnsButton_->setObjectName(QStringLiteral("ColumnsButton"));
     columnsButton_->setDefaultAction(columnsAction_);
     columnsButton_->setText(tr("Columns..."));
     refreshButton_->setObjectName(QStringLiteral("RefreshButton"));
-    refreshButton_->setDefaultAction(refreshAction);
+    refreshButton_->setDefaultAction(refreshAction_);
     refreshButton_->setText(tr("Refresh"));
 
-    auto* const row = new QHBoxLayout;
-    for (QWidget* const part : std::initializer_list<QWidget*>{
-             show_, byLabel_, by_, averageLabel_, average_, barsLabel_, bars_, columnsButton_}) {
-        row->addWidget(part);
-    }
-    row->addStretch(1);
+    const int gap = fontMetrics().height() / 3;
+    auto* const row = new FlowLayout(gap);
+    row->setContentsMargins({});
+    row->addWidget(show_);
+    row->addTogether({byLabel_, by_});
+    row->addTogether({averageLabel_, average_});
+    row->addTogether({barsLabel_, bars_});
+    row->addWidget(columnsButton_);
+    row->addStretch();
     row->addWidget(bar_);
     row->addWidget(count_);
     row->addWidget(charts_);
     row->addWidget(refreshButton_);
+    choosers_->setLayout(row);
     auto* const box = new QVBoxLayout(this);
-    const int gap = fontMetrics().height() / 3;
     box->setContentsMargins(gap, gap, gap, gap);
-    box->addLayout(row);
+    box->addWidget(choosers_);
     box->addWidget(note_);
     box->addWidget(stack_, 1);
+    box->addWidget(purpose_, 1);
     setFocusProxy(table_);
 
     dependOn(OnDatabase | OnSettings);
@@ -273,10 +276,10 @@ void ResearchPanel::refresh()
     if (!research) {
         making_.cancel();
         shown_.reset();
-        show({});
         if (!desk_.work().running()) {
             desk_.read();
         }
+        show({});
         return;
     }
     if (research->lines.size() == 0) {
@@ -341,12 +344,14 @@ void ResearchPanel::show(Made made)
         // Another table begins in its own order.
         table_->sortByColumn(-1, Qt::AscendingOrder);
     }
-    table_->setTable(made.table);
-    table_->setAccessibleName(title() + QStringLiteral(": ") + toQt(made.table.title));
+    // Moved, because it may have a row for each of very many charts.
+    table_->setTable(std::move(made.table));
+    const present::Table& table = table_->table();
+    table_->setAccessibleName(title() + QStringLiteral(": ") + toQt(table.title));
     chart_->setModel(std::move(made.bars));
     stack_->setCurrentIndex(shows() == Graph ? 1 : 0);
-    stack_->setVisible(!made.table.rows.empty());
-    count_->setText(shows() == Charts ? toQt(made.table.title) : QString());
+    stack_->setVisible(!table.rows.empty());
+    count_->setText(shows() == Charts ? toQt(table.title) : QString());
     showNote();
 }
 
@@ -362,7 +367,15 @@ void ResearchPanel::showNote()
         note = tr("No yoga was searched yet.");
     }
     note_->setText(note);
-    note_->setVisible(!note.isEmpty());
+    // Without lines there is nothing to choose from, and the page says what it would be for.
+    const bool nothing = research ? research->lines.size() == 0 : !desk_.work().running();
+    purpose_->setVisible(nothing);
+    choosers_->setVisible(!nothing);
+    note_->setVisible(!nothing && !note.isEmpty());
+    if (nothing) {
+        purpose_->show(note, workspace().database().charts(),
+                       research ? research->state : data::ResearchState::Missing);
+    }
 }
 
 void ResearchPanel::remember() const

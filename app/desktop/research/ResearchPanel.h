@@ -20,6 +20,7 @@ namespace kestrav::desktop
 {
 
 class BarChartView;
+class ResearchPurpose;
 class TableView;
 class WorkBar;
 
@@ -73,6 +74,7 @@ private:
 
     ResearchDesk& desk_;
     YogaFindings& findings_;
+    QAction* refreshAction_;
     QComboBox* show_;
     QComboBox* by_;
     QComboBox* average_;
@@ -89,6 +91,8 @@ private:
     TableView* table_;
     BarChartView* chart_;
     WorkBar* bar_;
+    QWidget* choosers_;
+    ResearchPurpose* purpose_;
     BackgroundWork making_;
     // Shared with the worker that makes it.
     std::shared_ptr<const Request> shown_;

@@ -1,8 +1,6 @@
 #include "app/desktop/yogas/YogaActions.h"
 
-#include "app/desktop/database/ResearchActions.h"
 #include "app/desktop/pages/PageStrip.h"
-#include "app/desktop/research/ResearchDesk.h"
 #include "app/desktop/shell/Ks6main.h"
 #include "app/desktop/shell/TMessages.h"
 #include "app/desktop/yogas/YogaCommands.h"
