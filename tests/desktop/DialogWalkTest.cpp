@@ -1,4 +1,6 @@
 // Walking through dialogs and menus by the keyboard alone.
+#include "app/desktop/pages/PageStrip.h"
+#include "app/desktop/pages/PageView.h"
 #include "app/desktop/palette/PaletteMatch.h"
 #include "app/desktop/palette/TPaletteDlg.h"
 #include "app/desktop/start/Gallery.h"
@@ -12,6 +14,7 @@
 #include <QRadioButton>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTreeView>
 
 #include <functional>
 #include <map>
@@ -41,7 +44,7 @@ std::set<QWidget*> reachable(const QWidget& form)
     std::set<QWidget*> found;
     for (QWidget* const widget : form.findChildren<QWidget*>()) {
         const auto* const radio = qobject_cast<const QRadioButton*>(widget);
-        if (widget->isVisible() && widget->isEnabled() && widget->window() == &form &&
+        if (widget->isVisible() && widget->isEnabled() && widget->window() == form.window() &&
             (widget->focusPolicy() & Qt::TabFocus) == Qt::TabFocus &&
             widget->focusProxy() == nullptr && (radio == nullptr || radio->isChecked())) {
             found.insert(widget);
@@ -166,6 +169,24 @@ TEST_F(WindowTest, TabWalksThroughEveryFormAndLettersChooseOneThing)
             expectWalk(*form, name);
         }
         static_cast<void>(TMessages::takeShown());
+    }
+}
+
+TEST_F(WindowTest, TabComesToEveryControlOfEveryPage)
+{
+    window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+    for (int page = 0; page < window().pages().count(); ++page) {
+        window().pages().show(page);
+        settle();
+        find<QTreeView>("ChartList")->setFocus();
+        const std::vector<QWidget*> steps = walk(window());
+        const std::set<QWidget*> seen(steps.begin(), steps.end());
+        for (QWidget* const widget : reachable(*window().pages().page())) {
+            EXPECT_TRUE(seen.contains(widget))
+                << window().pages().name(page).toStdString() << ": Tab never comes to "
+                << described(widget) << " of " << described(widget->parentWidget());
+        }
     }
 }
 

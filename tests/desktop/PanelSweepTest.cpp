@@ -280,8 +280,7 @@ TEST_P(TablesOfTheCommandLine, AreThoseOfTheWindow)
     qDeleteAll(panels);
 }
 
-INSTANTIATE_TEST_SUITE_P(Births, TablesOfTheCommandLine,
-                         testing::Values(0, 3, 8, 11, 16, 18, 20, 23),
+INSTANTIATE_TEST_SUITE_P(Births, TablesOfTheCommandLine, testing::Values(0, 8, 11, 18, 23),
                          [](const auto& birth) { return "Chart" + std::to_string(birth.param); });
 
 } // namespace

@@ -160,7 +160,7 @@ void PageView::focusCell(int by)
     if (cells_[index]->isAncestorOf(QApplication::focusWidget())) {
         index = (index + by + count) % count;
     }
-    cells_[index]->panel()->setFocus(Qt::TabFocusReason);
+    cells_[index]->focusPanel();
 }
 
 QByteArray PageView::saveSizes() const

@@ -18,6 +18,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace kestrav::desktop
 {
 
@@ -105,11 +107,11 @@ PanelCell::PanelCell(Workspace& workspace, const present::Panel& panel, QWidget*
     caption_->setFont(bold);
     caption_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
 
-    auto* const bar = new QHBoxLayout;
+    bar_ = new QHBoxLayout;
     const int gap = fontMetrics().height() / 4;
-    bar->setContentsMargins(gap * 2, gap / 2, gap / 2, gap / 2);
-    bar->setSpacing(gap);
-    bar->addWidget(caption_);
+    bar_->setContentsMargins(gap * 2, gap / 2, gap / 2, gap / 2);
+    bar_->setSpacing(gap);
+    bar_->addWidget(caption_);
     if (panel_->hasVarga()) {
         varga_ = new QComboBox(this);
         varga_->setObjectName(QStringLiteral("VargaComboBox"));
@@ -124,7 +126,7 @@ PanelCell::PanelCell(Workspace& workspace, const present::Panel& panel, QWidget*
             panel_->setVarga(varga);
             emit changed();
         });
-        bar->addWidget(varga_);
+        bar_->addWidget(varga_);
     }
     if (panel_->hasStyle()) {
         style_ = new QComboBox(this);
@@ -143,13 +145,13 @@ PanelCell::PanelCell(Workspace& workspace, const present::Panel& panel, QWidget*
                                         : std::optional(present::DiagramStyle(index - 1)));
             emit changed();
         });
-        bar->addWidget(style_);
+        bar_->addWidget(style_);
     }
     pin_ = barButton(QStringLiteral("\u25C9"), QStringLiteral("PinButton"),
                      tr("Keep showing this chart here"), this);
     pin_->setCheckable(true);
     connect(pin_, &QToolButton::toggled, panel_, &PanelWidget::pin);
-    bar->addWidget(pin_);
+    bar_->addWidget(pin_);
     menu_ = barButton(QStringLiteral("\u2630"), QStringLiteral("PanelMenuButton"),
                       tr("Menu of this panel"), this);
     menu_->setPopupMode(QToolButton::InstantPopup);
@@ -159,16 +161,41 @@ PanelCell::PanelCell(Workspace& workspace, const present::Panel& panel, QWidget*
         fillMenu(*menu);
     });
     menu_->setMenu(menu);
-    bar->addWidget(menu_);
+    bar_->addWidget(menu_);
 
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(0);
-    layout->addLayout(bar);
+    layout->addLayout(bar_);
     layout->addWidget(panel_, 1);
-    setFocusProxy(panel_);
+    // Tab would go from the panel to what it names, and pass by everything between the two.
+    focused_ = panel_->focusProxy();
+    panel_->setFocusProxy(nullptr);
     connect(panel_, &PanelWidget::captionChanged, this, &PanelCell::showCaption);
     showCaption();
+}
+
+// A narrow cell goes without the chooser of styles, which the menu has too.
+QSize PanelCell::minimumSizeHint() const
+{
+    const QSize whole = QFrame::minimumSizeHint();
+    if (style_ == nullptr) {
+        return whole;
+    }
+    int bar = bar_->minimumSize().width();
+    if (style_->isVisibleTo(this)) {
+        bar -= style_->minimumSizeHint().width() + bar_->spacing();
+    }
+    return {std::max(bar, panel_->minimumSizeHint().width()) + 2 * frameWidth(), whole.height()};
+}
+
+void PanelCell::resizeEvent(QResizeEvent* event)
+{
+    QFrame::resizeEvent(event);
+    if (style_ != nullptr) {
+        style_->setVisible(width() >= minimumSizeHint().width() +
+                                          style_->minimumSizeHint().width() + bar_->spacing());
+    }
 }
 
 QString PanelCell::captionText() const
@@ -186,6 +213,11 @@ QString PanelCell::captionText() const
         break;
     }
     return text;
+}
+
+void PanelCell::focusPanel()
+{
+    (focused_ != nullptr ? focused_.data() : panel_)->setFocus(Qt::TabFocusReason);
 }
 
 void PanelCell::showCaption()
@@ -219,6 +251,18 @@ void PanelCell::fillMenu(QMenu& menu)
     }
     menu.addAction(tr("&Larger"), panel_, [this] { panel_->setZoom(panel_->zoom() + kZoomStep); });
     menu.addAction(tr("S&maller"), panel_, [this] { panel_->setZoom(panel_->zoom() - kZoomStep); });
+    if (style_ != nullptr) {
+        QMenu* const styles = menu.addMenu(tr("St&yle"));
+        for (int i = 0; i < style_->count(); ++i) {
+            QAction* const style = styles->addAction(style_->itemText(i));
+            style->setCheckable(true);
+            style->setChecked(i == style_->currentIndex());
+            connect(style, &QAction::triggered, style_, [this, i] {
+                style_->setCurrentIndex(i);
+                emit style_->activated(i);
+            });
+        }
+    }
     QAction* const keep = menu.addAction(tr("&Keep This Chart"));
     keep->setCheckable(true);
     keep->setChecked(pin_->isChecked());

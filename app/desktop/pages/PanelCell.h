@@ -4,8 +4,10 @@
 #include "app/present/PageLayout.h"
 
 #include <QFrame>
+#include <QPointer>
 
 class QComboBox;
+class QHBoxLayout;
 class QLabel;
 class QMenu;
 class QToolButton;
@@ -28,8 +30,12 @@ public:
         return panel_;
     }
     [[nodiscard]] QString captionText() const;
+    /// Gives the focus to what the panel is for: its table, diagram or list.
+    void focusPanel();
     /// The panel's own actions and the common ones, as the menu button shows them.
     void fillMenu(QMenu& menu);
+
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
 signals:
     /// The user changed what the cell shows: the page is not any more as it was saved.
@@ -37,12 +43,15 @@ signals:
 
 protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void showCaption();
 
     Workspace& workspace_;
     PanelWidget* panel_;
+    QPointer<QWidget> focused_; ///< what the panel names as its own to have the focus
+    QHBoxLayout* bar_ = nullptr;
     QLabel* caption_;
     QComboBox* varga_ = nullptr;
     QComboBox* style_ = nullptr;
