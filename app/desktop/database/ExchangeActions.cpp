@@ -173,8 +173,8 @@ void ExchangeActions::merge(const std::filesystem::path& file, const std::filesy
 
 void ExchangeActions::preview(const std::shared_ptr<Merging>& merging)
 {
-    auto* const dialog = new TMergePreviewDlg(merging->preview, merging->table, merging->name,
-                                              database().path(), &window_);
+    auto* const dialog = new TMergePreviewDlg(merging->preview, std::move(merging->table),
+                                              merging->name, database().path(), &window_);
     dialog->choose(merging->first);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this, [this, dialog, merging] {

@@ -3,6 +3,7 @@
 #include "app/present/PersonTables.h"
 #include "core/FileText.h"
 
+#include <algorithm>
 #include <cmath>
 #include <string_view>
 
@@ -15,6 +16,9 @@ namespace
 using present::Align;
 using present::Cell;
 using present::Table;
+
+// New, changed, equal or damaged.
+constexpr std::size_t kKindColumn = 1;
 
 // Rows are sorted by this when their column is: what changes something comes first.
 Cell kindCell(data::MergeKind kind)
@@ -115,6 +119,11 @@ Table mergeTable(const data::MergePreview& preview, data::ChartDatabase& ours,
         table.add({present::integerCell(int(entry.theirLine) + 1), kindCell(entry.kind), entry.name,
                    std::move(date), words});
     }
+    // What is equal stands last, as there may be thousands of it.
+    std::stable_sort(table.rows.begin(), table.rows.end(),
+                     [](const present::Row& one, const present::Row& two) {
+                         return present::compareCells(one[kKindColumn], two[kKindColumn]) < 0;
+                     });
     return table;
 }
 

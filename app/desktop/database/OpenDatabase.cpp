@@ -28,7 +28,7 @@ namespace
 using data::Outcome;
 
 // Steps of more lines are shown by reading the whole list anew.
-constexpr std::size_t kFewLines = 32;
+constexpr std::size_t kFewLines = 200;
 
 // Programs that save write a file in several steps.
 constexpr std::chrono::milliseconds kLookAfter{300};

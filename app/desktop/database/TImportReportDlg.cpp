@@ -12,6 +12,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace kestrav::desktop
 {
 
@@ -55,7 +57,7 @@ TImportReportDlg::TImportReportDlg(const data::ExportReport& report, const QStri
             exportTable(report));
 }
 
-void TImportReportDlg::arrange(const QString& summary, const present::Table& table)
+void TImportReportDlg::arrange(const QString& summary, present::Table table)
 {
     setObjectName(QStringLiteral("TImportReportDlg"));
     auto* const label = new QLabel(summary, this);
@@ -65,7 +67,7 @@ void TImportReportDlg::arrange(const QString& summary, const present::Table& tab
     table_->setObjectName(QStringLiteral("ReportTable"));
     table_->setAccessibleName(tr("Records of the file"));
     table_->setFrameShape(QFrame::StyledPanel);
-    table_->setTable(table);
+    table_->setTable(std::move(table));
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     QPushButton* const copy = buttons->addButton(tr("&Copy"), QDialogButtonBox::ActionRole);
     copy->setObjectName(QStringLiteral("CopyButton"));

@@ -25,7 +25,7 @@ public:
     TImportReportDlg(const data::ExportReport& report, const QString& file, QWidget* parent);
 
 private:
-    void arrange(const QString& summary, const present::Table& table);
+    void arrange(const QString& summary, present::Table table);
     void CopyButtonClick();
 
     TableView* table_;

@@ -17,14 +17,6 @@
 namespace kestrav::desktop
 {
 
-namespace
-{
-
-// New, changed or equal.
-constexpr int kKindColumn = 1;
-
-} // namespace
-
 TMergePreviewDlg::TMergePreviewDlg(const data::MergePreview& preview, present::Table table,
                                    const std::filesystem::path& theirs,
                                    const std::filesystem::path& ours, QWidget* parent)
@@ -51,8 +43,6 @@ TMergePreviewDlg::TMergePreviewDlg(const data::MergePreview& preview, present::T
     view->setAccessibleName(tr("Charts of the other database"));
     view->setFrameShape(QFrame::StyledPanel);
     view->setTable(std::move(table));
-    // What is equal stands last, as there may be thousands of it.
-    view->sortByColumn(kKindColumn, Qt::AscendingOrder);
 
     auto* const group = new QGroupBox(tr("Changed charts"), this);
     auto* const groupBox = new QVBoxLayout(group);
