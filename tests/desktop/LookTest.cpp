@@ -13,6 +13,9 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPainter>
+#include <QScrollBar>
+#include <QTextBrowser>
+#include <QTextDocument>
 
 #include <algorithm>
 #include <cmath>
@@ -112,6 +115,26 @@ TEST_F(WindowTest, CaptionsShareNarrowCellsWithTheirChoosers)
             EXPECT_GE(caption->width(), std::min(few, caption->sizeHint().width()))
                 << name << ": " << caption->text().toStdString();
         }
+    }
+}
+
+TEST_F(WindowTest, ReportsFitTheirWindowAndNameTheirDiagrams)
+{
+    for (const int width : {1280, 1200}) {
+        window().resize(width, 800);
+        ASSERT_TRUE(window().pages().show(QStringLiteral("Chart")));
+        settle();
+        // A fresh page is laid out for the width that it has.
+        ASSERT_TRUE(window().pages().show(QStringLiteral("Report")));
+        settle();
+        emit workspace().chartChanged();
+        settle();
+        auto* const browser = window().pages().page()->findChild<QTextBrowser*>();
+        ASSERT_NE(browser, nullptr);
+        const QString words = browser->document()->toPlainText();
+        EXPECT_TRUE(words.contains(QStringLiteral("Rashi (D-1)")));
+        EXPECT_TRUE(words.contains(QStringLiteral("Navamsha (D-9)")));
+        EXPECT_EQ(browser->horizontalScrollBar()->maximum(), 0) << width;
     }
 }
 

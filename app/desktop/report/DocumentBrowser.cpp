@@ -9,6 +9,7 @@
 #include <QTextBrowser>
 #include <QUrl>
 
+#include <algorithm>
 #include <cmath>
 #include <variant>
 
@@ -18,9 +19,11 @@ namespace kestrav::desktop
 namespace
 {
 
-// Drawings are made for paper; on the screen two of them stand side by side.
+// Drawings are made for paper; on the screen two of them stand side by side, smaller where there is
+// little room.
 constexpr double kShownPart = 0.75;
-constexpr double kBesideDrawing = 4.0; // pixels
+constexpr double kLeastPart = 0.55;
+constexpr double kBesideDrawing = 6.0; // pixels
 
 QString escaped(const std::wstring& text)
 {
@@ -101,16 +104,22 @@ private:
     void add(const present::DrawingRow& row)
     {
         double across = 0.0;
+        double widest = 1.0;
         for (const present::Drawing& drawing : row.drawings) {
-            across += drawing.list.width * kShownPart + kBesideDrawing;
+            across += drawing.list.width;
+            widest = std::max(widest, drawing.list.width);
         }
-        const bool sideBySide = across <= browser_.viewport()->width();
+        const double room = browser_.viewport()->width() -
+                            2.0 * browser_.document()->documentMargin() -
+                            kBesideDrawing * double(row.drawings.size());
+        const double fitting = std::min(kShownPart, room / std::max(1.0, across));
+        const bool sideBySide = fitting >= kLeastPart;
+        const double part = sideBySide ? fitting : std::min(kShownPart, room / widest);
         html_ += QStringLiteral("<table cellspacing=\"0\" cellpadding=\"2\"><tr>");
         for (const present::Drawing& drawing : row.drawings) {
             const double ratio = browser_.devicePixelRatioF();
             // Drawn as large as it is shown: the browser would shrink it to jagged lines.
-            const QSize shown(int(drawing.list.width * kShownPart),
-                              int(drawing.list.height * kShownPart));
+            const QSize shown(int(drawing.list.width * part), int(drawing.list.height * part));
             const QSize pixels(int(std::ceil(shown.width() * ratio)),
                                int(std::ceil(shown.height() * ratio)));
             if (pixels.isEmpty()) {
@@ -127,7 +136,7 @@ private:
             painter.end();
             const QString name = QStringLiteral("drawing%1").arg(++drawings_);
             browser_.document()->addResource(QTextDocument::ImageResource, QUrl(name), image);
-            html_ += QStringLiteral("<td align=\"center\">%1<img src=\"%2\" width=\"%3\" "
+            html_ += QStringLiteral("<td align=\"left\">%1<img src=\"%2\" width=\"%3\" "
                                     "height=\"%4\"></td>%5")
                          .arg(row.drawings.size() > 1
                                   ? escaped(drawing.list.title) + QStringLiteral("<br>")
