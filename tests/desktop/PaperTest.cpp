@@ -4,6 +4,7 @@
 #include "app/desktop/printing/Printing.h"
 #include "tests/desktop/DesktopForTests.h"
 
+#include <QAbstractButton>
 #include <QProcess>
 
 #include <string>
@@ -102,6 +103,25 @@ TEST_F(PaperTest, TablesTooWideForTheirCellFollowInFull)
     EXPECT_EQ(count(words, "r6c15."), 1);
     EXPECT_EQ(count(words, "r70c1."), 1);
     EXPECT_EQ(count(words.substr(0, words.find('\f')), "r6c2."), 1) << "the narrow one stays";
+}
+
+TEST_F(PaperTest, HeadAndCaptionsNameTheChartsThatArePrinted)
+{
+    const std::string first = core::toUtf8(workspace().chart()->chart.name);
+    ASSERT_TRUE(window().pages().show(QStringLiteral("Report")));
+    settle();
+    find<QAbstractButton>("PinButton", window().pages().page())->click();
+    ASSERT_TRUE(workspace().showLine(3));
+    settle();
+    const std::string other = core::toUtf8(workspace().chart()->chart.name);
+    const std::string report = wordsOfPage("Report");
+    EXPECT_GE(count(report, first), 1);
+    EXPECT_EQ(count(report, other), 0) << report.substr(0, 400);
+
+    ASSERT_TRUE(workspace().showSecond(workspace().chart()->chart));
+    ASSERT_TRUE(workspace().showLine(0));
+    settle();
+    EXPECT_EQ(count(wordsOfPage("Compare"), "Rashi (" + other + ")"), 1);
 }
 
 TEST_F(PaperTest, EveryDeliveredPageIsPrintedUnderItsChart)

@@ -19,6 +19,7 @@
 #include <QPrinter>
 #include <QThreadPool>
 
+#include <algorithm>
 #include <numeric>
 #include <utility>
 
@@ -83,6 +84,29 @@ void finishPanels(PageView& page)
     QApplication::restoreOverrideCursor();
 }
 
+// The chart that the page is about: the shown one, unless all cells keep another.
+ChartPointer chartOfHead(const PageView& page, const Workspace& workspace)
+{
+    const auto& cells = page.cells();
+    const bool kept =
+        !cells.empty() && std::all_of(cells.begin(), cells.end(), [&cells](const PanelCell* cell) {
+            return cell->panel()->pinnedChart() == cells.front()->panel()->pinnedChart();
+        });
+    const ChartPointer pinned = kept ? cells.front()->panel()->pinnedChart() : nullptr;
+    return pinned ? pinned : workspace.chart();
+}
+
+// Paper does not show which chart is the second one; its name does.
+QString captionOnPaper(const PanelCell& cell, const Workspace& workspace)
+{
+    const PanelWidget& panel = *cell.panel();
+    const ChartPointer& second = workspace.secondChart();
+    if (!panel.pinnedChart() && panel.panel().chart == present::PanelChart::Second && second) {
+        return QStringLiteral("%1 (%2)").arg(panel.title(), toQt(second->chart.name));
+    }
+    return cell.captionText();
+}
+
 QSizeF roomOf(const QPageLayout& layout)
 {
     return layout.paintRect(QPageLayout::Point).size();
@@ -94,7 +118,7 @@ PaperDocument paperOfPage(PageView& page, Workspace& workspace)
 {
     finishPanels(page);
     PaperDocument document;
-    if (const ChartPointer& chart = workspace.chart()) {
+    if (const ChartPointer chart = chartOfHead(page, workspace)) {
         document.title = chart->chart.name;
         document.head = present::reportHead(*chart);
     }
@@ -111,7 +135,7 @@ PaperDocument paperOfPage(PageView& page, Workspace& workspace)
         printed.share = QRectF(
             QPointF(at(columns, place.column), at(rows, place.row)),
             QPointF(at(columns, place.column + place.columns), at(rows, place.row + place.rows)));
-        printed.caption = toWide(cell->captionText());
+        printed.caption = toWide(captionOnPaper(*cell, workspace));
         printed.blocks = panel.blocks();
         document.cells.push_back(std::move(printed));
     }
