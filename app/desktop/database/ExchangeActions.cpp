@@ -286,7 +286,8 @@ void ExchangeActions::exportAs(data::ExportFormat format, const QString& caption
     struct Written
     {
         core::Result<void> result;
-        data::ExportReport report;
+        std::size_t charts = 0;
+        present::Table losses;
     };
     // Shared, because the work may outlive the window.
     const auto copy = std::make_shared<data::ChartDatabase>(database().charts());
@@ -294,20 +295,23 @@ void ExchangeActions::exportAs(data::ExportFormat format, const QString& caption
         &window_, tr("Writing %1").arg(QFileInfo(*file).fileName()), {},
         [copy, format, path = toPath(*file)](const WorkHandle&) {
             Written written;
-            written.result = data::writeExport(*copy, format, path, written.report);
+            data::ExportReport report;
+            written.result = data::writeExport(*copy, format, path, report);
+            written.charts = report.written;
+            written.losses = exportTable(report);
             return written;
         },
-        [this, name = *file](const Written& written) {
+        [this, name = *file](Written written) {
             if (!written.result) {
                 data::tellSavingError(written.result.error(), files_.messages());
                 return;
             }
-            if (written.report.notes.empty()) {
-                window_.workspace().tell(
-                    tr("%1 written to %2").arg(charts(written.report.written), name));
+            if (written.losses.rows.empty()) {
+                window_.workspace().tell(tr("%1 written to %2").arg(charts(written.charts), name));
                 return;
             }
-            auto* const dialog = new TImportReportDlg(written.report, name, &window_);
+            auto* const dialog =
+                new TImportReportDlg(written.charts, std::move(written.losses), name, &window_);
             dialog->setAttribute(Qt::WA_DeleteOnClose);
             dialog->open();
         });

@@ -46,15 +46,15 @@ TImportReportDlg::TImportReportDlg(const std::vector<data::ImportReport>& report
     arrange(summaryOf(reports), importTable(reports));
 }
 
-TImportReportDlg::TImportReportDlg(const data::ExportReport& report, const QString& file,
+TImportReportDlg::TImportReportDlg(std::size_t written, present::Table losses, const QString& file,
                                    QWidget* parent)
     : QDialog(parent), table_(new TableView(this))
 {
     setWindowTitle(tr("Export Report"));
     arrange(tr("%1: %2 charts written. Some things do not fit into this kind of file:")
                 .arg(QFileInfo(file).fileName())
-                .arg(report.written),
-            exportTable(report));
+                .arg(written),
+            std::move(losses));
 }
 
 void TImportReportDlg::arrange(const QString& summary, present::Table table)

@@ -2,11 +2,11 @@
 #pragma once
 
 #include "app/present/Table.h"
-#include "data/export/ExportCharts.h"
 #include "data/import/ImportReport.h"
 
 #include <QDialog>
 
+#include <cstddef>
 #include <vector>
 
 namespace kestrav::desktop
@@ -21,8 +21,9 @@ class TImportReportDlg : public QDialog
 public:
     /// The reports of the imported files.
     TImportReportDlg(const std::vector<data::ImportReport>& reports, QWidget* parent);
-    /// The losses of an export.
-    TImportReportDlg(const data::ExportReport& report, const QString& file, QWidget* parent);
+    /// The losses of an export of so many charts.
+    TImportReportDlg(std::size_t written, present::Table losses, const QString& file,
+                     QWidget* parent);
 
 private:
     void arrange(const QString& summary, present::Table table);
