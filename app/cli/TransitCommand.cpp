@@ -6,15 +6,14 @@
 #include "app/cli/SharedOptions.h"
 #include "app/cli/TransitCommandOptions.h"
 #include "app/cli/TransitCommandOutput.h"
+#include "app/present/Clock.h"
 #include "app/present/TextValues.h"
 #include "core/FileText.h"
 #include "core/NumberText.h"
-#include "core/TextForms.h"
 #include "timing/SiderealSky.h"
 
 #include <nlohmann/json.hpp>
 
-#include <cmath>
 #include <optional>
 #include <utility>
 
@@ -40,17 +39,6 @@ core::Result<double> clockOf(const TransitRequest& request, const Arguments& arg
     return zone ? core::parseZone(*zone) : core::Result<double>(0.0);
 }
 
-// "+5:30", with seconds where there are any.
-std::wstring zoneText(double hours)
-{
-    std::wstring text = core::FormatDMS(std::fabs(hours), 5);
-    text.erase(0, text.find_first_not_of(L' '));
-    if (text.ends_with(L":00")) {
-        text.resize(text.size() - 3);
-    }
-    return (hours < 0.0 ? L"-" : L"+") + text;
-}
-
 std::wstring headingOf(const TransitRequest& request, const std::optional<ComputedChart>& native,
                        double clock)
 {
@@ -59,7 +47,8 @@ std::wstring headingOf(const TransitRequest& request, const std::optional<Comput
         text += native->chart.name.empty() ? L" to the chart" : L" to " + native->chart.name;
     }
     return text + L", " + present::dateText(timing::recordOfDay(request.days.first)) + L" to " +
-           present::dateText(timing::recordOfDay(request.days.last)) + L", zone " + zoneText(clock);
+           present::dateText(timing::recordOfDay(request.days.last)) + L", zone " +
+           present::offsetText(clock);
 }
 
 // Nothing when it was stopped.

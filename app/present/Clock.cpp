@@ -45,4 +45,14 @@ SystemZone systemZoneAt(double unixSeconds)
     return {double(local.tm_gmtoff) / 3600.0 - saving, saving};
 }
 
+std::wstring offsetText(double hours)
+{
+    const long seconds = std::lround(std::fabs(hours) * 3600.0);
+    const auto twoDigits = [](long number) {
+        return (number < 10 ? L":0" : L":") + std::to_wstring(number);
+    };
+    return (hours < 0.0 ? L"-" : L"+") + std::to_wstring(seconds / 3600) +
+           twoDigits(seconds / 60 % 60) + (seconds % 60 != 0 ? twoDigits(seconds % 60) : L"");
+}
+
 } // namespace kestrav::present

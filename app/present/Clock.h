@@ -1,7 +1,9 @@
-// The present moment and the zone of the system.
+// The present moment, the zone of the system, and how a clock is named.
 #pragma once
 
 #include "core/Result.h"
+
+#include <string>
 
 namespace kestrav::present
 {
@@ -21,5 +23,9 @@ struct SystemZone
 
 /// What the zone of the system is at a moment.
 [[nodiscard]] SystemZone systemZoneAt(double unixSeconds);
+
+/// The hours of a clock before Universal Time as "+5:30"; with seconds where there are any, as in
+/// local mean time.
+[[nodiscard]] std::wstring offsetText(double hours);
 
 } // namespace kestrav::present

@@ -55,6 +55,7 @@ TEST_F(WindowTest, DateBarTakesDatesAndKeepsWhatItCannotRead)
     EXPECT_EQ(date->text().toStdString(), "15/1/2026");
     EXPECT_EQ(time->text().toStdString(), "12:39:58");
     EXPECT_EQ(find<QLabel>("WeekdayLabel")->text().toStdString(), "Thursday");
+    EXPECT_EQ(find<QLabel>("ZoneLabel")->text().toStdString(), "+0:39:58");
 
     const double before = workspace().moment();
     type(date, "31/2/2026");

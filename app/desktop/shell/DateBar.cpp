@@ -6,6 +6,7 @@
 #include "app/desktop/shell/Workspace.h"
 #include "app/desktop/timing/MomentSteps.h"
 #include "app/desktop/timing/MomentText.h"
+#include "app/present/Clock.h"
 #include "app/present/TextValues.h"
 #include "core/Names.h"
 #include "data/BirthTexts.h"
@@ -52,9 +53,9 @@ void fitTo(QLineEdit& field, const QString& longest)
 
 DateBar::DateBar(Workspace& workspace, QWidget* parent)
     : QWidget(parent), workspace_(workspace), date_(new QLineEdit(this)),
-      time_(new QLineEdit(this)), weekday_(new QLabel(this)), problem_(new QLabel(this)),
-      unit_(new QComboBox(this)), secondLabel_(new QLabel(tr("Second chart:"), this)),
-      second_(new QToolButton(this))
+      time_(new QLineEdit(this)), zone_(new QLabel(this)), weekday_(new QLabel(this)),
+      problem_(new QLabel(this)), unit_(new QComboBox(this)),
+      secondLabel_(new QLabel(tr("Second chart:"), this)), second_(new QToolButton(this))
 {
     setObjectName(QStringLiteral("DateBar"));
     makeFields();
@@ -75,6 +76,7 @@ DateBar::DateBar(Workspace& workspace, QWidget* parent)
     box->setSpacing(gap);
     box->addWidget(date_);
     box->addWidget(time_);
+    box->addWidget(zone_);
     box->addWidget(weekday_);
     box->addSpacing(gap);
     box->addWidget(back);
@@ -107,6 +109,8 @@ void DateBar::makeFields()
         connect(field, &QLineEdit::editingFinished, this, &DateBar::DateEditEditingFinished);
     }
     weekday_->setObjectName(QStringLiteral("WeekdayLabel"));
+    zone_->setObjectName(QStringLiteral("ZoneLabel"));
+    zone_->setToolTip(tr("Hours of the clock before Universal Time"));
     problem_->setObjectName(QStringLiteral("DateProblemLabel"));
     problem_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     unit_->setObjectName(QStringLiteral("StepComboBox"));
@@ -137,8 +141,10 @@ void DateBar::showMoment()
     }
     const QString order = settings.monthFirst ? tr("month/day/year") : tr("day/month/year");
     date_->setToolTip(tr("The date that all panels follow, as %1").arg(order));
-    time_->setToolTip(tr("The clock time that all panels follow"));
+    time_->setToolTip(tr("The clock time that all panels follow, at the Now location or, while "
+                         "that is not set, at the birth place"));
     weekday_->setText(toQt(core::weekdayName(reading.weekday)));
+    zone_->setText(toQt(present::offsetText(reading.offset)));
     showProblem({});
 }
 
@@ -163,21 +169,34 @@ void DateBar::showProblem(const QString& text)
     problem_->setPalette(palette);
 }
 
+int DateBar::neededWidth() const
+{
+    int needed = layout()->contentsMargins().left() + layout()->contentsMargins().right();
+    for (const QWidget* const widget : findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        if (widget != zone_ && widget != weekday_ && widget != secondLabel_ && widget != problem_) {
+            needed += widget->sizeHint().width() + 2 * layout()->spacing();
+        }
+    }
+    return needed;
+}
+
+// What can be missed does not keep a window wide.
+QSize DateBar::minimumSizeHint() const
+{
+    return {neededWidth(), QWidget::minimumSizeHint().height()};
+}
+
 // What can be missed makes room in a narrow window.
 void DateBar::fitFields()
 {
     fitTo(*date_, QStringLiteral("00/00/-00000"));
     fitTo(*time_, QStringLiteral("00:00:00 pm"));
-    int needed = layout()->contentsMargins().left() + layout()->contentsMargins().right();
-    for (const QWidget* const widget : findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
-        if (widget != weekday_ && widget != secondLabel_ && widget != problem_) {
-            needed += widget->sizeHint().width() + 2 * layout()->spacing();
-        }
-    }
     const int forWeekday = weekday_->fontMetrics().horizontalAdvance(QStringLiteral("Wednesday_"));
     weekday_->setMinimumWidth(forWeekday);
-    const int spare = width() - needed - forWeekday;
+    int spare = width() - neededWidth() - forWeekday;
     weekday_->setVisible(spare >= 0);
+    spare -= zone_->sizeHint().width() + layout()->spacing();
+    zone_->setVisible(spare >= 0);
     secondLabel_->setVisible(spare >= secondLabel_->sizeHint().width());
 }
 

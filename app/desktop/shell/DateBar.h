@@ -26,6 +26,8 @@ public:
     void step(int direction);
     void goToNow();
 
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -36,6 +38,7 @@ private:
     void showMoment();
     void showSecond();
     void showProblem(const QString& text);
+    [[nodiscard]] int neededWidth() const;
     void fitFields();
     void DateEditEditingFinished();
     void StepComboBoxActivated();
@@ -44,6 +47,7 @@ private:
     Workspace& workspace_;
     QLineEdit* date_;
     QLineEdit* time_;
+    QLabel* zone_;
     QLabel* weekday_;
     QLabel* problem_;
     QComboBox* unit_;

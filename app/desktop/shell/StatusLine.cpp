@@ -6,6 +6,7 @@
 #include "app/desktop/shell/Ks6main.h"
 #include "app/desktop/shell/Theme.h"
 #include "app/present/ChangedPoints.h"
+#include "app/present/Clock.h"
 #include "app/present/DashaTables.h"
 #include "app/present/TextValues.h"
 #include "astro/Ayanamsa.h"
@@ -35,20 +36,6 @@ QString clock(double hours, const core::Settings& settings)
 {
     return toQt(
         present::withoutEndBlanks(core::FormatClock(hours, settings.twelveHourClock, false)));
-}
-
-// "+5:30"; seconds where a zone of local mean time has them.
-QString zoneText(double hours)
-{
-    const auto seconds = std::lround(std::abs(hours) * 3600.0);
-    QString text = QStringLiteral("%1%2:%3")
-                       .arg(hours < 0.0 ? QLatin1Char('-') : QLatin1Char('+'))
-                       .arg(seconds / 3600)
-                       .arg(seconds / 60 % 60, 2, 10, QLatin1Char('0'));
-    if (seconds % 60 != 0) {
-        text += QStringLiteral(":%1").arg(seconds % 60, 2, 10, QLatin1Char('0'));
-    }
-    return text;
 }
 
 } // namespace
@@ -157,7 +144,7 @@ void StatusLine::showChart()
         local_->setText(QStringLiteral("%1  %2  %3")
                             .arg(toQt(present::dateText(chart.time)),
                                  clock(chart.time.localTime, shown->settings),
-                                 zoneText(chart.zone + chart.daylightSaving)));
+                                 toQt(present::offsetText(chart.zone + chart.daylightSaving))));
         const double universal = std::fmod(chart.time.utHours + 48.0, 24.0);
         universal_->setText(QStringLiteral("UT ") + clock(universal, shown->settings));
         ayanamsa_->setText(toQt(astro::selectedRow(shown->settings).nameText()) + QLatin1Char(' ') +
