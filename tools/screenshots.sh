@@ -32,7 +32,7 @@ picture() { # NAME FILE OPTION...
 if [ "${1-}" = --readme ]; then
     for page in Chart Dashas Yogas; do
         file=docs/images/$(echo "$page" | tr '[:upper:]' '[:lower:]').png
-        picture "$page" "$file" --scheme light --size 1240x800
+        picture "$page" "$file" --scheme light --size 1440x900
         if command -v pngquant >/dev/null; then
             pngquant --force --skip-if-larger --output "$file" "$file" || true
         fi
