@@ -14,6 +14,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDateTime>
 #include <QDoubleSpinBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -236,6 +237,10 @@ TEST_F(OptionsTest, RowsOfTheAyanamsaReadNumbersUpToWhatIsNoPartOfThem)
         type("MinutesEdit", QStringLiteral("abc"));
         type("SecondsEdit", QStringLiteral("36"));
         type("AnnualRateEdit", QStringLiteral("50.5\""));
+        // A field that is left shows what was read of it.
+        auto* const minutes = find<QLineEdit>("MinutesEdit", &dialog);
+        emit minutes->editingFinished();
+        EXPECT_EQ(minutes->text(), QStringLiteral("0"));
         const core::AyanamsaRow& row = dialog.settings().ayanamsaTable[1];
         EXPECT_EQ(row.nameText(), "Mine");
         EXPECT_EQ(row.epochYear, 2026);
@@ -331,6 +336,10 @@ TEST_F(OptionsTest, TheWizardGathersChoicesAndEscLeavesThem)
         find<QComboBox>("AyanamsaRowComboBox", &wizard)->setCurrentIndex(2);
         EXPECT_TRUE(find<QLabel>("TodayLabel", &wizard)->text().startsWith(QStringLiteral("22")));
         click(wizard, "NextButton");
+        // Without a Now location it is the clock of the system, not of the open chart.
+        const QDateTime now = QDateTime::fromSecsSinceEpoch(QByteArray(kTestClock).toLongLong());
+        EXPECT_EQ(find<QLabel>("ExampleLabel", &wizard)->text(),
+                  now.toString(QStringLiteral("d/M/yyyy  h:mm")));
         click(wizard, "TwelveHourClockCheckBox");
         click(wizard, "NextButton");
         click(wizard, "NextButton");

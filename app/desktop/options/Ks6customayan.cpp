@@ -129,6 +129,10 @@ TCustomAyanamsaDlg::TCustomAyanamsaDlg(Workspace& workspace, core::Settings sett
     }
     connect(annualRate_, &QLineEdit::textEdited, this,
             &TCustomAyanamsaDlg::AnnualRateEditTextEdited);
+    // A field that is left shows what was read of it.
+    for (QLineEdit* const edit : {epochYear_, degrees_, minutes_, seconds_, annualRate_}) {
+        connect(edit, &QLineEdit::editingFinished, this, &TCustomAyanamsaDlg::showRow);
+    }
     rows_->setCurrentRow(settings_.ayanamsaRow);
     rows_->setFocus();
 }

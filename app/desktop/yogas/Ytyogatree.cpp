@@ -311,9 +311,9 @@ QWidget* makeYogaWindow(Workspace& workspace, QWidget* parent)
     form->setWindowFlag(Qt::Window);
     form->setWindowTitle(TYogaTreeForm::tr("Yogas"));
     const int line = form->fontMetrics().height();
-    form->resize(line * 72, line * 42);
+    form->resize(line * 77, line * 42);
     form->move(parent->frameGeometry().center() - form->rect().center());
-    form->findChild<QSplitter*>(QStringLiteral("YogaSplitter"))->setSizes({line * 31, line * 41});
+    form->findChild<QSplitter*>(QStringLiteral("YogaSplitter"))->setSizes({line * 31, line * 46});
     return form;
 }
 
