@@ -109,7 +109,7 @@ bool THelpForm::findOnOtherPages()
     const QStringList pages = QDir(helpFolder()).entryList({QStringLiteral("*.html")});
     const qsizetype here = pages.indexOf(page());
     for (qsizetype i = 1; i < pages.size(); ++i) {
-        const QString name = pages[(here + i) % pages.size()];
+        const QString& name = pages[(here + i) % pages.size()];
         QFile file(helpFolder() + QLatin1Char('/') + name);
         if (!file.open(QIODevice::ReadOnly)) {
             continue;

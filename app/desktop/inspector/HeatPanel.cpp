@@ -22,7 +22,7 @@ HeatPanel::HeatPanel(Workspace& workspace, present::Panel panel, QWidget* parent
 {
     setObjectName(QStringLiteral("HeatPanel"));
     view_->setObjectName(QStringLiteral("HeatTableView"));
-    view_->setAccessibleName(title());
+    view_->setAccessibleName(HeatPanel::title());
     view_->setAlternatingRowColors(false);
     view_->setSelectionBehavior(QAbstractItemView::SelectItems);
     legend_->setObjectName(QStringLiteral("HeatLegendLabel"));

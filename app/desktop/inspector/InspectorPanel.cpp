@@ -147,7 +147,8 @@ void InspectorPanel::remember()
     const present::Link& link = workspace().selection();
     const bool known = place_ >= 0 && history_[std::size_t(place_)] == link;
     if (link.subject != present::Subject::None && !known) {
-        history_.resize(std::size_t(place_ + 1));
+        const int kept = place_ + 1;
+        history_.resize(std::size_t(kept));
         history_.push_back(link);
         if (history_.size() > kMostHistory) {
             history_.erase(history_.begin());

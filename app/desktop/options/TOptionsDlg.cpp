@@ -212,7 +212,7 @@ TOptionsDlg::Row TOptionsDlg::makeRow(const SettingRow& row, QWidget* parent)
                                          toQt(info.choices),
                                          tr(row.choices)}
                                  .join(QLatin1Char(' '));
-    const Row made{&row, editor, widget, reset, searched};
+    Row made{&row, editor, widget, reset, searched};
     connect(editor, &SettingEditor::edited, this, [this, editor] { whenEdited(*editor); });
     editor->show(settings_);
     return made;
