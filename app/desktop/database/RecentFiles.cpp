@@ -60,7 +60,7 @@ void rememberChart(const QString& name)
 QString chartsFolder()
 {
     QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) +
-                           QStringLiteral("/Kestrav");
+                     QStringLiteral("/Kestrav");
     QDir().mkpath(folder);
     return folder;
 }

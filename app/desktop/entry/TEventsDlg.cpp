@@ -34,8 +34,7 @@ TEventsDlg::TEventsDlg(Workspace& workspace, QWidget* parent)
     auto* const label = new QLabel(tr("&Events of %1:").arg(toQt(workspace.record().name)), this);
     label->setTextFormat(Qt::PlainText);
     label->setBuddy(table_);
-    QPushButton* const sort =
-        buttons_->addButton(tr("&Sort by Date"), QDialogButtonBox::ResetRole);
+    QPushButton* const sort = buttons_->addButton(tr("&Sort by Date"), QDialogButtonBox::ResetRole);
     sort->setObjectName(QStringLiteral("SortButton"));
     connect(sort, &QPushButton::clicked, table_, &EventsTable::sortByDate);
     keepEnterInside(*this);
