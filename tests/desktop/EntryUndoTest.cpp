@@ -15,6 +15,8 @@
 #include <QTabWidget>
 #include <QTextCursor>
 #include <QTimer>
+#include <QTreeView>
+#include <QWindow>
 
 namespace kestrav::desktop
 {
@@ -214,6 +216,48 @@ TEST_F(EntryUndoTest, NotesThatAreTypedForLongAreKeptMeanwhile)
     EXPECT_TRUE(database().record(0)->identity.notes.ends_with(L"forenoon.\r\nand more"));
 }
 
+TEST_F(EntryUndoTest, DeletingGoesOnFromRowToRow)
+{
+    auto& pane = *window().findChild<ChartListPane*>();
+    QTreeView& list = pane.list();
+    list.setFocus();
+    pane.selectLine(3);
+    const int row = list.currentIndex().row();
+    const auto nameAt = [&](int at) {
+        return list.model()->index(at, 0).data().toString();
+    };
+    const QString gone = nameAt(row);
+    const QString next = nameAt(row + 1);
+    const auto question = [](const QString& name) {
+        return QStringLiteral("Delete '%1' from file?").arg(name).toStdString();
+    };
+    TMessages::prepare(Answer::Yes);
+    QTest::keyClick(&list, Qt::Key_Delete);
+    auto shown = TMessages::takeShown();
+    ASSERT_EQ(shown.size(), 1U);
+    EXPECT_EQ(shown[0].text.toStdString(), question(gone));
+    ASSERT_EQ(pane.selectedLines().size(), 1U);
+    QTest::keyClick(&list, Qt::Key_Delete);
+    shown = TMessages::takeShown();
+    ASSERT_EQ(shown.size(), 1U);
+    const QString at = nameAt(list.currentIndex().row());
+    EXPECT_EQ(shown[0].text.toStdString(), question(at));
+    EXPECT_TRUE(at == next || at == nameAt(row - 1));
+
+    // Where nothing is selected the shown chart is meant, which may be in no file.
+    list.clearSelection();
+    command("DeleteChartAction");
+    shown = TMessages::takeShown();
+    ASSERT_EQ(shown.size(), 1U);
+    EXPECT_EQ(shown[0].text.toStdString(), question(toQt(workspace().record().name)));
+    command("NowChartAction");
+    list.clearSelection();
+    command("DeleteChartAction");
+    shown = TMessages::takeShown();
+    ASSERT_EQ(shown.size(), 1U);
+    EXPECT_EQ(shown[0].text, "No need to Delete because not yet saved");
+}
+
 TEST_F(EntryUndoTest, EveryStepIsTakenBackToTheFirstByte)
 {
     const auto bytes = database().charts().bytes();
@@ -232,9 +276,10 @@ TEST_F(EntryUndoTest, EveryStepIsTakenBackToTheFirstByte)
     const auto end = database().charts().bytes();
     // The key that opens a chart may be pressed with Ctrl.
     ASSERT_TRUE(workspace().showLine(2));
-    QTest::keyPress(&window(), Qt::Key_Control, Qt::ControlModifier);
+    QTest::keyPress(window().windowHandle(), Qt::Key_Control, Qt::ControlModifier);
+    ASSERT_EQ(QApplication::keyboardModifiers(), Qt::ControlModifier);
     ASSERT_TRUE(workspace().showLine(4));
-    QTest::keyRelease(&window(), Qt::Key_Control);
+    QTest::keyRelease(window().windowHandle(), Qt::Key_Control);
     EXPECT_EQ(window().findChild<ChartListPane*>()->selectedLines(), std::vector<std::size_t>{4});
     int steps = 0;
     for (; database().undoStack().canUndo(); ++steps) {

@@ -122,7 +122,7 @@ void ChartActions::DeleteChartActionClick()
 {
     const std::vector<std::size_t> selected = files_.pane().selectedLines();
     if (selected.empty()) {
-        database_.deleteRecord(std::nullopt, files_.messages());
+        database_.deleteRecord(window_.workspace().chartLine(), files_.messages());
         return;
     }
     if (selected.size() == 1) {

@@ -146,6 +146,12 @@ void ChartListPane::makeList()
          {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved}) {
         connect(model_, signal, this, &ChartListPane::showCount);
     }
+    // What was selected is gone; the row that stands there now takes its place.
+    connect(model_, &QAbstractItemModel::rowsRemoved, this, [this] {
+        if (selectedLines().empty() && list_->currentIndex().isValid()) {
+            makeCurrent(list_->currentIndex());
+        }
+    });
     connect(list_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &ChartListPane::showCount);
     hint_->setObjectName(QStringLiteral("EmptyListLabel"));
