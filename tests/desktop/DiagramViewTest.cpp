@@ -187,9 +187,9 @@ TEST_F(DiagramViewTest, SingleKeysChangeWhatIsShown)
 
 TEST_F(DiagramViewTest, WheelWithControlZoomsAroundThePointer)
 {
-    // Away from the corners of cells, whatever the shape of the view.
-    const QPointF spot(view_->width() * 0.3, view_->height() * 0.15);
+    // Away from the corners of cells, whatever the shape of the view; the diagram is in its middle.
     const double before = view_->list().width;
+    const QPointF spot = QRectF(view_->rect()).center() + QPointF(-0.25 * before, -0.02 * before);
     const auto cellUnder = [this, spot] {
         for (const int cell : present::cellsInOrder(view_->list())) {
             if (view_->polygonOf(cell).containsPoint(spot, Qt::OddEvenFill)) {
