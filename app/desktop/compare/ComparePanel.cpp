@@ -1,6 +1,7 @@
 #include "app/desktop/compare/ComparePanel.h"
 
 #include "app/desktop/options/SettingRows.h"
+#include "app/desktop/panels/FlowLayout.h"
 #include "app/desktop/panels/TableActions.h"
 #include "app/desktop/panels/TableView.h"
 #include "app/desktop/shell/Convert.h"
@@ -8,7 +9,6 @@
 
 #include <QAction>
 #include <QComboBox>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QTabWidget>
@@ -57,14 +57,15 @@ ComparePanel::ComparePanel(Workspace& workspace, present::Panel panel, QWidget* 
     differences_->setObjectName(QStringLiteral("DifferencesTable"));
     hint_->setObjectName(QStringLiteral("HintLabel"));
     hint_->setWordWrap(true);
+    hint_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     choose_->setObjectName(QStringLiteral("ChooseSecondButton"));
     tabs_->addTab(firstInSecond_, QString());
     tabs_->addTab(secondInFirst_, QString());
     tabs_->addTab(makeSettingsPage(), tr("Other settings"));
-    auto* const bar = new QHBoxLayout;
     const int gap = fontMetrics().height() / 3;
+    auto* const bar = new FlowLayout(gap);
     bar->setContentsMargins(2 * gap, gap, 2 * gap, gap);
-    bar->addWidget(hint_, 1);
+    bar->addWidget(hint_);
     bar->addWidget(choose_);
     auto* const box = new QVBoxLayout(this);
     box->setContentsMargins({});
@@ -105,15 +106,16 @@ QWidget* ComparePanel::makeSettingsPage()
     for (QComboBox* const chooser : {setting_, value_}) {
         chooser->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         chooser->setMinimumContentsLength(kFewestLetters);
+        chooser->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     }
     auto* const label = new QLabel(tr("&With the setting:"), page);
     label->setBuddy(setting_);
-    auto* const bar = new QHBoxLayout;
     const int gap = fontMetrics().height() / 3;
+    auto* const bar = new FlowLayout(gap);
     bar->setContentsMargins(2 * gap, 0, 2 * gap, 0);
     bar->addWidget(label);
-    bar->addWidget(setting_, 2);
-    bar->addWidget(value_, 1);
+    bar->addWidget(setting_);
+    bar->addWidget(value_);
     auto* const box = new QVBoxLayout(page);
     box->setContentsMargins(0, gap, 0, 0);
     box->addLayout(bar);
@@ -161,11 +163,6 @@ std::vector<present::Block> ComparePanel::blocks()
     return {currentView()->table()};
 }
 
-void ComparePanel::showTable(TableView& view, present::Table table)
-{
-    view.setTable(table);
-}
-
 void ComparePanel::refresh()
 {
     const ChartPointer first = chart();
@@ -174,13 +171,17 @@ void ComparePanel::refresh()
     const QString secondName = second ? toQt(second->chart.name) : tr("second chart");
     tabs_->setTabText(0, tr("%1 in the houses of %2").arg(firstName, secondName));
     tabs_->setTabText(1, tr("%1 in the houses of %2").arg(secondName, firstName));
+    const bool appears = second != nullptr && !tabs_->isTabVisible(0);
     tabs_->setTabVisible(0, second != nullptr);
     tabs_->setTabVisible(1, second != nullptr);
+    if (appears) {
+        tabs_->setCurrentIndex(0);
+    }
     hint_->setText(second ? tr("%1 and %2").arg(firstName, secondName)
                           : tr("No second chart is open."));
     if (first && second) {
-        showTable(*firstInSecond_, present::positionsInChart(first->chart, second->chart));
-        showTable(*secondInFirst_, present::positionsInChart(second->chart, first->chart));
+        firstInSecond_->setTable(present::positionsInChart(first->chart, second->chart));
+        secondInFirst_->setTable(present::positionsInChart(second->chart, first->chart));
     }
     showDifferences();
 }
@@ -191,7 +192,7 @@ void ComparePanel::showDifferences()
     const core::SettingInfo* const setting =
         core::findSetting(toUtf8(setting_->currentData().toString()));
     if (!first || value_->count() == 0) {
-        showTable(*differences_, {});
+        differences_->setTable({});
         return;
     }
     present::ComputedChart other;
@@ -202,8 +203,8 @@ void ComparePanel::showDifferences()
     core::storeSetting(other.settings, *setting, value_->currentData().toInt());
     astro::EphemerisContext context(workspace().data()->series);
     present::computeFromBirthData(other, context);
-    showTable(*differences_, present::differencesTable(*first, other, workspace().data()->series,
-                                                       workspace().moment()));
+    differences_->setTable(
+        present::differencesTable(*first, other, workspace().data()->series, workspace().moment()));
 }
 
 } // namespace kestrav::desktop

@@ -31,7 +31,6 @@ private:
     QWidget* makeSettingsPage();
     void SettingComboBoxActivated();
     void showDifferences();
-    void showTable(TableView& view, present::Table table);
     [[nodiscard]] TableView* currentView() const;
 
     QTabWidget* tabs_;

@@ -23,6 +23,12 @@ bool grows(const QLayoutItem& item)
     return item.expandingDirections().testFlag(Qt::Horizontal);
 }
 
+// Texts that may be broken become higher in less room.
+int heightWithin(const QLayoutItem& item, int width)
+{
+    return item.hasHeightForWidth() ? item.heightForWidth(width) : item.sizeHint().height();
+}
+
 } // namespace
 
 FlowLayout::FlowLayout(int gap)
@@ -102,21 +108,28 @@ int FlowLayout::heightForWidth(int width) const
 
 QSize FlowLayout::minimumSize() const
 {
-    QSize least;
+    QSize least(0, 0);
     for (const auto& item : items_) {
         if (isShown(*item)) {
             least = least.expandedTo(item->minimumSize());
         }
     }
     const QMargins margins = contentsMargins();
-    return least + QSize(margins.left() + margins.right(), margins.top() + margins.bottom());
+    least += QSize(margins.left() + margins.right(), margins.top() + margins.bottom());
+    // As it stands now all its rows are needed.
+    return placed_ > 0 ? QSize(least.width(), heightForWidth(placed_)) : least;
 }
 
 QSize FlowLayout::sizeHint() const
 {
-    QSize inOneRow;
-    for (const Row& row : rowsWithin(QLAYOUTSIZE_MAX)) {
-        inOneRow = {row.width, row.height};
+    QSize inOneRow(0, 0);
+    for (const auto& item : items_) {
+        if (isShown(*item)) {
+            const QSize wanted = item->sizeHint();
+            const int gap = inOneRow.width() > 0 && item->spacerItem() == nullptr ? spacing() : 0;
+            inOneRow = {inOneRow.width() + gap + wanted.width(),
+                        std::max(inOneRow.height(), wanted.height())};
+        }
     }
     const QMargins margins = contentsMargins();
     return inOneRow + QSize(margins.left() + margins.right(), margins.top() + margins.bottom());
@@ -125,6 +138,14 @@ QSize FlowLayout::sizeHint() const
 void FlowLayout::setGeometry(const QRect& area)
 {
     QLayout::setGeometry(area);
+    if (area.width() != placed_) {
+        const bool otherRows =
+            placed_ == 0 || heightForWidth(placed_) != heightForWidth(area.width());
+        placed_ = area.width();
+        if (otherRows) {
+            update();
+        }
+    }
     const QRect inside = area.marginsRemoved(contentsMargins());
     int top = inside.top();
     for (const Row& row : rowsWithin(inside.width())) {
@@ -140,42 +161,50 @@ std::vector<FlowLayout::Row> FlowLayout::rowsWithin(int width) const
         if (!isShown(*item)) {
             continue;
         }
-        const QSize size = item->sizeHint();
         const bool stretch = item->spacerItem() != nullptr;
-        const int added = stretch ? 0 : size.width() + spacing();
+        const int wanted = std::min(item->sizeHint().width(), width);
+        const int added = stretch ? 0 : wanted + spacing();
         if (rows.empty() || (rows.back().width > 0 && rows.back().width + added > width)) {
             rows.emplace_back();
         }
         Row& row = rows.back();
-        row.items.push_back(item.get());
+        row.items.push_back({item.get(), wanted});
         // The first of a row has no gap before it.
-        row.width += row.width == 0 && !stretch ? size.width() : added;
-        row.height = std::max(row.height, size.height());
+        row.width += row.width == 0 && !stretch ? wanted : added;
+    }
+    for (Row& row : rows) {
+        fill(row, width);
     }
     return rows;
 }
 
+// Gives what can grow the room that is left, and finds the height.
+void FlowLayout::fill(Row& row, int width)
+{
+    const auto growing =
+        int(std::count_if(row.items.begin(), row.items.end(),
+                          [](const Placed& placed) { return grows(*placed.item); }));
+    const int left = std::max(0, width - row.width);
+    for (Placed& placed : row.items) {
+        placed.width += grows(*placed.item) ? left / growing : 0;
+        row.height = std::max(row.height, heightWithin(*placed.item, placed.width));
+    }
+}
+
 void FlowLayout::place(const Row& row, const QRect& area) const
 {
-    const auto growing = int(std::count_if(row.items.begin(), row.items.end(),
-                                           [](const QLayoutItem* item) { return grows(*item); }));
-    const int left = std::max(0, area.width() - row.width);
     int x = area.left();
     bool first = true;
-    for (QLayoutItem* const item : row.items) {
-        const QSize wanted = item->sizeHint();
-        const int width =
-            std::min(area.width(), wanted.width() + (grows(*item) ? left / growing : 0));
-        if (item->spacerItem() != nullptr) {
-            x += width;
-            continue;
+    for (const Placed& placed : row.items) {
+        if (placed.item->spacerItem() == nullptr) {
+            x += first ? 0 : spacing();
+            first = false;
+            const int height = heightWithin(*placed.item, placed.width);
+            const QRect at(x, area.top() + (area.height() - height) / 2, placed.width, height);
+            placed.item->setGeometry(
+                QStyle::visualRect(parentWidget()->layoutDirection(), geometry(), at));
         }
-        x += first ? 0 : spacing();
-        first = false;
-        const QRect at(x, area.top() + (area.height() - wanted.height()) / 2, width,
-                       wanted.height());
-        item->setGeometry(QStyle::visualRect(parentWidget()->layoutDirection(), geometry(), at));
-        x += width;
+        x += placed.width;
     }
 }
 

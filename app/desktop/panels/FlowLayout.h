@@ -35,18 +35,25 @@ public:
     void setGeometry(const QRect& area) override;
 
 private:
+    struct Placed
+    {
+        QLayoutItem* item = nullptr;
+        int width = 0;
+    };
     struct Row
     {
-        std::vector<QLayoutItem*> items;
-        int width = 0; ///< of the items and the gaps between them
+        std::vector<Placed> items;
+        int width = 0; ///< of the items and the gaps between them, before they grow
         int height = 0;
     };
 
     [[nodiscard]] std::vector<Row> rowsWithin(int width) const;
+    static void fill(Row& row, int width);
     void place(const Row& row, const QRect& area) const;
     [[nodiscard]] int heightOf(const std::vector<Row>& rows) const;
 
     std::vector<std::unique_ptr<QLayoutItem>> items_;
+    int placed_ = 0; ///< the width that it was given last
 };
 
 } // namespace kestrav::desktop

@@ -25,7 +25,7 @@ EventsPanel::EventsPanel(Workspace& workspace, present::Panel panel, QWidget* pa
     view_->setObjectName(QStringLiteral("EventsTable"));
     view_->setAccessibleName(tr("Events"));
     note_->setObjectName(QStringLiteral("NoteLabel"));
-    note_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    note_->setWordWrap(true);
     edit_->setObjectName(QStringLiteral("EditEventsButton"));
     edit_->setText(tr("Edit Events..."));
     connect(edit_, &QToolButton::clicked, this, &EventsPanel::EditEventsButtonClick);

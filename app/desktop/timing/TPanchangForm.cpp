@@ -1,5 +1,6 @@
 #include "app/desktop/timing/TPanchangForm.h"
 
+#include "app/desktop/panels/FlowLayout.h"
 #include "app/desktop/shell/Convert.h"
 #include "app/desktop/shell/Theme.h"
 #include "app/desktop/timing/DayRequest.h"
@@ -10,7 +11,6 @@
 #include "core/Names.h"
 #include "timing/PanchangaReport.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QSplitter>
@@ -74,15 +74,9 @@ TPanchangForm::TPanchangForm(Workspace& workspace, present::Panel panel, QWidget
         connect(stack, &TableStack::linkActivated, this, &TPanchangForm::follow);
     }
 
-    auto* const bar = new QHBoxLayout;
-    const int gap = fontMetrics().height() / 3;
-    bar->setContentsMargins(gap, gap, gap, gap);
-    bar->addWidget(dayButton(false));
-    bar->addWidget(dayButton(true));
-    bar->addSpacing(gap);
-    bar->addWidget(dayLabel_);
-    bar->addSpacing(3 * gap);
-    bar->addWidget(strength_, 1);
+    auto* const bar = new FlowLayout(fontMetrics().height() / 3);
+    bar->addTogether({dayButton(false), dayButton(true), dayLabel_});
+    bar->addWidget(strength_);
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(0);

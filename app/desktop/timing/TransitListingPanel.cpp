@@ -135,7 +135,8 @@ QLayout* TransitListingPanel::makeBar()
     });
     auto* const bar = new FlowLayout(fontMetrics().height() / 3);
     bar->addTogether({arrow(Qt::LeftArrow, "DaysBackButton", tr("The days before"), -1),
-                      arrow(Qt::RightArrow, "DaysForwardButton", tr("The days after"), 1), days_});
+                      arrow(Qt::RightArrow, "DaysForwardButton", tr("The days after"), 1)});
+    bar->addWidget(days_);
     bar->addStretch();
     bar->addWidget(working);
     bar->addWidget(choices);

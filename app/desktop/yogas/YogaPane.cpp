@@ -81,7 +81,7 @@ YogaPane::YogaPane(Workspace& workspace, QWidget* parent)
     holds_->setObjectName(QStringLiteral("HoldsLabel"));
     holds_->setTextFormat(Qt::PlainText);
     holds_->setWordWrap(true);
-    rule_->setMinimumHeight(fontMetrics().height() * 13);
+    rule_->setMinimumHeight(fontMetrics().height() * 8);
     makeTexts();
     const auto label = [this](const QString& text, QWidget* buddy) {
         auto* const made = new QLabel(text, this);
