@@ -211,37 +211,32 @@ TEST_P(SharedDateOfPages, EveryPanelGoesWithTheDate)
     for (const PanelCell* const cell : window().pages().page()->cells()) {
         panels.push_back(cell->panel());
     }
+    const Birth& birth = kBirths[std::size_t(GetParam() * 5) % kBirths.size()];
+    ASSERT_TRUE(workspace().showRecord(recordOf(birth)));
+    workspace().setMoment(momentAt(workspace(), workspace().record().time, birth.hours) + 9876.5);
+    settle();
     for (int unit = 0; unit < kStepUnits; ++unit) {
-        const Birth& birth = kBirths[std::size_t(GetParam() * 5 + unit) % kBirths.size()];
-        if (unit % 3 == 0) {
-            ASSERT_TRUE(workspace().showRecord(recordOf(birth)));
-            workspace().setMoment(momentAt(workspace(), workspace().record().time, birth.hours) +
-                                  9876.5);
-        }
         chooseUnit(StepUnit(unit));
         step(unit % 2 == 0 ? 1 : -1);
-        if (unit == 4 || unit == kStepUnits - 1) {
-            expectFresh(panels, page + ", " + stepUnitName(StepUnit(unit)).toStdString());
-        }
+        QApplication::processEvents(); // workers need not be done before the next step
     }
+    expectFresh(panels, page + ", " + core::toUtf8(std::wstring(birth.name)));
 }
 
 INSTANTIATE_TEST_SUITE_P(Pages, SharedDateOfPages, testing::Range(0, 12));
 
 TEST_F(SharedDate, DatesOutOfReachAreToldAndBreakNothing)
 {
-    for (const char* const text : {"1/1/99999", "1/1/-4001"}) {
-        typeDate(text);
-        settle();
-        for (int page = 0; page < window().pages().count(); ++page) {
-            window().pages().show(page);
-            QApplication::processEvents();
-        }
-        for (int unit = 0; unit < kStepUnits; ++unit) {
-            chooseUnit(StepUnit(unit));
-            step(1);
-            step(-1);
-        }
+    typeDate("1/1/99999");
+    settle();
+    for (int page = 0; page < window().pages().count(); ++page) {
+        window().pages().show(page);
+        QApplication::processEvents();
+    }
+    for (int unit = 0; unit < kStepUnits; ++unit) {
+        chooseUnit(StepUnit(unit));
+        step(1);
+        step(-1);
     }
     command("GoToNowAction");
     expectMomentShown("now");
