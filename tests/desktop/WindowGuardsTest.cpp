@@ -5,6 +5,7 @@
 #include "app/desktop/pages/PanelCell.h"
 #include "app/desktop/panels/PanelWidget.h"
 #include "app/desktop/start/Gallery.h"
+#include "app/desktop/yogas/YogaDesk.h"
 #include "app/present/Colour.h"
 #include "tests/desktop/DesktopForTests.h"
 
@@ -163,6 +164,40 @@ TEST_F(WindowTest, FormsCutNoWordsWithLettersOfDoubleSize)
         settle();
         expectWholeWords(*form, row.name);
         static_cast<void>(TMessages::takeShown());
+    }
+    QApplication::setFont(before);
+}
+
+// The parts of a page that ask for the most width, for the words of a failure.
+std::string widestCells(PageView& page)
+{
+    std::string words;
+    for (const PanelCell* const cell : page.cells()) {
+        words += "\n  " + cell->panel()->panel().content + " " +
+                 std::to_string(cell->minimumSizeHint().width());
+    }
+    return words;
+}
+
+TEST_F(WindowTest, PagesFitASmallScreenWithLettersOfDoubleSize)
+{
+    constexpr QSize kSmallScreen(1280, 1024);
+    const QFont before = QApplication::font();
+    core::Settings settings = workspace().settings();
+    settings.fontPercent = 200;
+    workspace().changeSettings(settings);
+    openWindow();
+    YogaDesk::of(workspace()).select(yoga::YogaPlace{0, 0});
+    for (int page = 0; page < window().pages().count(); ++page) {
+        window().pages().show(page);
+        settle();
+        const QSize asked = window().minimumSizeHint();
+        EXPECT_LE(asked.width(), kSmallScreen.width())
+            << window().pages().name(page).toStdString() << " of "
+            << window().pages().page()->minimumSizeHint().width()
+            << widestCells(*window().pages().page());
+        EXPECT_LE(asked.height(), kSmallScreen.height())
+            << window().pages().name(page).toStdString();
     }
     QApplication::setFont(before);
 }
