@@ -139,7 +139,7 @@ TEST_F(WorkTest, PagesGoWhileTheirPanelsWork)
         pages.closePage(0);
         begin();
     }
-    for (const char* const page : {"Events", "Transits", "Report", "Panchanga"}) {
+    for (const char* const page : {"Transits", "Report"}) {
         openWindow();
         window().pages().show(QLatin1String(page));
         begin();
