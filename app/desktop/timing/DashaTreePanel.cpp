@@ -1,5 +1,6 @@
 #include "app/desktop/timing/DashaTreePanel.h"
 
+#include "app/desktop/panels/FlowLayout.h"
 #include "app/desktop/shell/Convert.h"
 #include "app/desktop/timing/DashaChoice.h"
 #include "app/desktop/timing/DashaTreeModel.h"
@@ -12,7 +13,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QScrollBar>
@@ -87,13 +87,9 @@ DashaTreePanel::DashaTreePanel(Workspace& workspace, present::Panel panel, QWidg
             &DashaTreePanel::chooseLord);
     connect(tree_, &QTreeView::activated, this, &DashaTreePanel::SetToStartActionExecute);
 
-    auto* const bar = new QHBoxLayout;
-    const int gap = fontMetrics().height() / 3;
-    bar->setContentsMargins(gap, gap, gap, gap);
-    bar->setSpacing(gap);
+    auto* const bar = new FlowLayout(fontMetrics().height() / 3);
     bar->addWidget(system_);
     bar->addWidget(makeStandard_);
-    bar->addStretch(1);
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(0);
