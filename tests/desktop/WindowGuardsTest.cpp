@@ -210,6 +210,26 @@ TEST_F(WindowTest, PagesFitASmallScreenWithLettersOfDoubleSize)
     QApplication::setFont(before);
 }
 
+TEST_F(WindowTest, NarrowCellsKeepTheStyleOfTheDiagramInTheirMenu)
+{
+    PanelCell* const cell = window().pages().page()->cells().front();
+    ASSERT_TRUE(cell->panel()->hasStyle());
+    cell->resize(cell->minimumSizeHint());
+    EXPECT_FALSE(find<QComboBox>("StyleComboBox", cell)->isVisible());
+    QMenu menu;
+    cell->fillMenu(menu);
+    const QMenu* styles = nullptr;
+    for (const QAction* const action : menu.actions()) {
+        styles = action->menu() != nullptr ? action->menu() : styles;
+    }
+    ASSERT_NE(styles, nullptr);
+    EXPECT_TRUE(styles->actions().front()->isChecked());
+    styles->actions().at(2)->trigger();
+    EXPECT_EQ(cell->panel()->panel().style, present::DiagramStyle(1));
+    cell->resize(cell->minimumSizeHint() * 2);
+    EXPECT_TRUE(find<QComboBox>("StyleComboBox", cell)->isVisible());
+}
+
 TEST_F(WindowTest, ColoursOfWordsStandOutAgainstTheirBackgrounds)
 {
     const auto present = [](const QColor& colour) {
