@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QRegularExpression>
 #include <QStringList>
 
 #include <cstdio>
@@ -116,6 +117,27 @@ QMessageBox::Icon iconOf(const QString& caption, Buttons buttons)
     return caption == QLatin1String("Warning") ? QMessageBox::Warning : QMessageBox::Information;
 }
 
+// "svg" of "Drawing (*.svg)"; empty where a filter lets all files through.
+QString suffixOf(const QString& filter)
+{
+    static const QRegularExpression kSuffix(QStringLiteral("\\*\\.(\\w+)"));
+    return kSuffix.match(filter).captured(1);
+}
+
+// The ending of a name follows the kind of file that is chosen.
+void takeSuffix(QFileDialog& dialog, const QString& filter)
+{
+    const QString suffix = suffixOf(filter);
+    const QFileInfo named(dialog.selectedFiles().value(0));
+    if (suffix.isEmpty()) {
+        return;
+    }
+    if (!named.fileName().isEmpty() && named.suffix() == dialog.defaultSuffix()) {
+        dialog.selectFile(named.completeBaseName() + QLatin1Char('.') + suffix);
+    }
+    dialog.setDefaultSuffix(suffix);
+}
+
 } // namespace
 
 Answer TMessages::show(const std::wstring& caption, const std::wstring& text, Buttons buttons)
@@ -157,6 +179,8 @@ std::optional<QString> TMessages::fileToSave(QWidget* parent, const QString& cap
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.selectFile(QFileInfo(suggestion).fileName());
     dialog.setDefaultSuffix(QFileInfo(suggestion).suffix());
+    QObject::connect(&dialog, &QFileDialog::filterSelected,
+                     [&dialog](const QString& kind) { takeSuffix(dialog, kind); });
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return std::nullopt;
     }
