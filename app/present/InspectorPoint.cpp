@@ -237,6 +237,13 @@ Table explanationSection(const ComputedChart& computed, int point)
             continue;
         }
         std::wstring how;
+        if (topic.form == "POINT:longitude" && computed.changed[std::size_t(point)]) {
+            // The way from the sky to a longitude is not that of a changed one.
+            table.add({explained.value().subject,
+                       core::FormatDMS(at(computed.chart.longitude, point), 1),
+                       L"Changed by you; all that follows is computed from this longitude."});
+            continue;
+        }
         for (const std::wstring& step : explained.value().steps) {
             how += (how.empty() ? L"" : L" ") + step;
         }

@@ -69,9 +69,19 @@ TEST_F(ChangedPointsTest, TheyAreMarkedWhereverTheChartStands)
     const std::vector<std::wstring> head = present::reportHead(*shown);
     EXPECT_NE(std::find(head.begin(), head.end(), line), head.end())
         << "reports and printed pages begin with it";
-    EXPECT_EQ(
-        present::inspect({*shown, data_->series}, {present::Subject::Point, core::kSun}).title,
-        L"Sun, changed by you");
+    const present::Inspection sun =
+        present::inspect({*shown, data_->series}, {present::Subject::Point, core::kSun});
+    EXPECT_EQ(sun.title, L"Sun, changed by you");
+    // How the sky's own longitude comes about would explain another number.
+    const auto how = std::find_if(sun.sections.begin(), sun.sections.end(),
+                                  [](const auto& one) { return one.id == "how-computed"; });
+    ASSERT_NE(how, sun.sections.end());
+    const auto changed =
+        std::find_if(how->rows.begin(), how->rows.end(), [](const present::Row& row) {
+            return row[2].text.starts_with(L"Changed by you");
+        });
+    ASSERT_NE(changed, how->rows.end());
+    EXPECT_EQ((*changed)[1].text, L"130\u00b030' 0\"");
 
     const auto points = table("positions");
     ASSERT_TRUE(points.ok());

@@ -1,5 +1,6 @@
 // Charts and files that are dropped on the window.
 #include "app/desktop/database/ChartListModel.h"
+#include "app/desktop/pages/PageStrip.h"
 #include "tests/desktop/DesktopForTests.h"
 
 #include <QDropEvent>
@@ -107,6 +108,7 @@ TEST_F(DropTest, FilesAreOpenedOneAfterTheOther)
     drop(mime);
     EXPECT_TRUE(QTest::qWaitFor([&] { return workspace().database().path() == toPath(other); }));
     EXPECT_TRUE(QTest::qWaitFor([&] { return workspace().yogas()->files().size() == files + 1; }));
+    EXPECT_EQ(window().pages().name(window().pages().current()), QStringLiteral("Yogas"));
     // What is not there is told by the text of the box.
     QMimeData missing;
     missing.setUrls({QUrl::fromLocalFile(home_.filePath(QStringLiteral("none.ksc")))});

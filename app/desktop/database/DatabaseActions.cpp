@@ -204,7 +204,9 @@ void DatabaseActions::open(const std::filesystem::path& path, std::function<void
         }
     };
     if (data::lowered(path.extension().string()) == ".ksy") {
-        openYogaFile(window_.workspace(), path);
+        if (openYogaFile(window_.workspace(), path)) {
+            emit window_.workspace().pageWanted(QStringLiteral("Yogas"));
+        }
         answer(false);
     } else if (data::shouldImport(path)) {
         window_.findChild<ExchangeActions*>()->importFile(path);

@@ -220,11 +220,12 @@ int runWindow(int& count, char** words, const ProgramOptions& options)
                             std::move(settings), settingsPath);
         TKSVform1 window(workspace);
         workspace.setYogas(loadYogas(workspace));
-        openFirst(window, options);
         const bool alone = options.batch || options.screenshot;
         if (!alone && workspace.settings().restoreSession) {
             window.restoreSession();
         }
+        // A named file may turn to the page where it is seen, so it comes after the last page.
+        openFirst(window, options);
         if (options.page) {
             window.pages().show(toQt(*options.page));
         }
