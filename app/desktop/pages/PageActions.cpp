@@ -293,6 +293,7 @@ void PageActions::ResetAllActionTriggered()
 {
     PageStrip& pages = window_.pages();
     std::vector<QByteArray> sizes;
+    sizes.reserve(std::size_t(pages.count()));
     for (int i = 0; i < pages.count(); ++i) {
         sizes.push_back(pages.sizes(i));
     }

@@ -197,6 +197,7 @@ void PageStrip::showTab(int index)
 std::vector<present::PageLayout> PageStrip::layouts() const
 {
     std::vector<present::PageLayout> layouts;
+    layouts.reserve(std::size_t(count()));
     for (int i = 0; i < count(); ++i) {
         layouts.push_back(layout(i));
     }

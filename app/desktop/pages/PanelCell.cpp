@@ -200,7 +200,7 @@ void PanelCell::resizeEvent(QResizeEvent* event)
 
 QString PanelCell::captionText() const
 {
-    const QString text = panel_->title();
+    QString text = panel_->title();
     if (panel_->pinnedChart()) {
         return tr("%1 (%2)").arg(text, toQt(panel_->pinnedChart()->chart.name));
     }

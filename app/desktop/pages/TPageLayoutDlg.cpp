@@ -30,7 +30,7 @@ namespace
 using present::Panel;
 using present::PanelKind;
 
-QString capitalised(QString text)
+QString capitalised(const QString& text)
 {
     return text.isEmpty() ? text : text.left(1).toUpper() + text.mid(1);
 }

@@ -40,8 +40,8 @@ FlowLayout::FlowLayout(int gap)
 FlowLayout::~FlowLayout()
 {
     // One by one: a layout that goes takes itself out of the one around it.
-    while (count() > 0) {
-        delete takeAt(0);
+    while (FlowLayout::count() > 0) {
+        delete FlowLayout::takeAt(0);
     }
 }
 
@@ -75,7 +75,7 @@ int FlowLayout::count() const
 
 QLayoutItem* FlowLayout::itemAt(int index) const
 {
-    return index >= 0 && index < count() ? items_[std::size_t(index)].get() : nullptr;
+    return index >= 0 && index < FlowLayout::count() ? items_[std::size_t(index)].get() : nullptr;
 }
 
 QLayoutItem* FlowLayout::takeAt(int index)

@@ -116,6 +116,7 @@ TColumnsDlg::TColumnsDlg(const QStringList& headings, const std::vector<std::siz
 std::vector<std::size_t> TColumnsDlg::shown() const
 {
     std::vector<std::size_t> columns;
+    columns.reserve(std::size_t(shown_->count()));
     for (int row = 0; row < shown_->count(); ++row) {
         columns.push_back(columnOf(shown_->item(row)));
     }

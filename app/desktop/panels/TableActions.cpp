@@ -12,7 +12,7 @@ namespace kestrav::desktop
 {
 
 QList<QAction*> tableActions(QWidget* owner, Workspace& workspace,
-                             std::function<const TableView*()> seen)
+                             const std::function<const TableView*()>& seen)
 {
     auto* const copy =
         new QAction(QCoreApplication::translate("TableActions", "Copy &Table"), owner);

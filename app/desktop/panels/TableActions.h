@@ -17,7 +17,7 @@ class Workspace;
 /// Copy Table and Save Table... for the table that is seen when one of them is chosen. The owner
 /// has the actions.
 [[nodiscard]] QList<QAction*> tableActions(QWidget* owner, Workspace& workspace,
-                                           std::function<const TableView*()> seen);
+                                           const std::function<const TableView*()>& seen);
 
 /// The same for a panel with one table.
 [[nodiscard]] QList<QAction*> tableActions(QWidget* owner, Workspace& workspace,
