@@ -87,6 +87,7 @@ void TableView::copy() const
     }
     if (!chosen.empty()) {
         std::vector<present::Row> rows;
+        rows.reserve(chosen.size());
         for (const int row : chosen) {
             rows.push_back(copied.rows[std::size_t(row)]);
         }

@@ -44,7 +44,7 @@ TextPanel::TextPanel(Workspace& workspace, present::Panel panel, QWidget* parent
     setObjectName(QStringLiteral("TextPanel-") + toQt(panel_.content));
     browser_->setObjectName(QStringLiteral("TextBrowser"));
     browser_->setFrameShape(QFrame::NoFrame);
-    browser_->setAccessibleName(title());
+    browser_->setAccessibleName(TextPanel::title());
     browser_->setOpenLinks(false);
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
