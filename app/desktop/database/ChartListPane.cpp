@@ -1,19 +1,16 @@
 #include "app/desktop/database/ChartListPane.h"
 
 #include "app/desktop/database/ChartListModel.h"
-#include "app/desktop/database/RecentFiles.h"
+#include "app/desktop/database/ChartSections.h"
 #include "app/desktop/database/ResearchKeys.h"
 #include "app/desktop/shell/BackgroundWork.h"
 #include "app/desktop/shell/Convert.h"
-#include "app/desktop/shell/Icons.h"
 #include "app/desktop/shell/StateFile.h"
 #include "app/desktop/shell/Theme.h"
 #include "app/desktop/shell/Workspace.h"
-#include "data/ChartLine.h"
 #include "data/ResearchDatabase.h"
 
 #include <QComboBox>
-#include <QFileInfo>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -25,7 +22,6 @@
 #include <QPushButton>
 #include <QSplitter>
 #include <QTreeView>
-#include <QTreeWidget>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -37,7 +33,6 @@ namespace kestrav::desktop
 namespace
 {
 
-constexpr std::size_t kMostOpened = 10;
 constexpr char kSortKey[] = "chartList/sort";
 
 // How much of the pane the sections get when nobody has moved the handle.
@@ -57,13 +52,12 @@ ChartListPane::ChartListPane(Workspace& workspace, QWidget* parent)
       reading_(new BackgroundWork(this)), filter_(new QLineEdit(this)), sort_(new QComboBox(this)),
       label_(new QComboBox(this)), reloadBar_(new QFrame(this)), reloadText_(quietLabel(this)),
       list_(new QTreeView(this)), count_(quietLabel(this)), hint_(quietLabel(list_->viewport())),
-      sections_(new QTreeWidget(this))
+      sections_(new ChartSections(workspace, this))
 {
     setObjectName(QStringLiteral("ChartListPane"));
     setAccessibleName(tr("Charts"));
     makeChoosers();
     makeList();
-    makeSections();
     makeReloadBar();
     arrange();
     fitColumns();
@@ -81,8 +75,13 @@ ChartListPane::ChartListPane(Workspace& workspace, QWidget* parent)
     connect(&workspace_, &Workspace::settingsChanged, this, [this] { fillLabels(); });
     readResearch();
     showCount();
-    showOpened();
-    showRecentFiles();
+    connect(sections_, &ChartSections::chartOpened, this, &ChartListPane::chartOpened);
+    connect(sections_, &ChartSections::fileWanted, this, &ChartListPane::fileWanted);
+}
+
+void ChartListPane::showRecentFiles()
+{
+    sections_->showRecentFiles();
 }
 
 void ChartListPane::makeChoosers()
@@ -162,23 +161,6 @@ void ChartListPane::makeList()
     inside->addWidget(hint_);
     count_->setObjectName(QStringLiteral("CountLabel"));
     count_->setAccessibleName(tr("Number of charts"));
-}
-
-void ChartListPane::makeSections()
-{
-    sections_->setObjectName(QStringLiteral("SectionsTree"));
-    sections_->setAccessibleName(tr("Now, open charts and recent files"));
-    sections_->setHeaderHidden(true);
-    sections_->setUniformRowHeights(true);
-    auto* const now = new QTreeWidgetItem(sections_, {tr("Now")});
-    now->setToolTip(0, tr("The chart of the moment at the Now location"));
-    now->setIcon(0, icon("appointment-new"));
-    openItem_ = new QTreeWidgetItem(sections_, {tr("Open")});
-    recentItem_ = new QTreeWidgetItem(sections_, {tr("Recent Files")});
-    sections_->expandItem(openItem_);
-    sections_->expandItem(recentItem_);
-    connect(sections_, &QTreeWidget::itemActivated, this,
-            &ChartListPane::SectionsTreeItemActivated);
 }
 
 void ChartListPane::makeReloadBar()
@@ -498,61 +480,8 @@ void ChartListPane::openCurrent(bool preview)
 void ChartListPane::ChartChanged()
 {
     if (workspace_.chart() && workspace_.chartLine() && !previewing_) {
-        const QString name = toQt(workspace_.record().name);
-        std::erase_if(opened_, [&](const Opened& one) { return one.name == name; });
-        opened_.insert(
-            opened_.begin(),
-            {name, std::string(workspace_.database().charts().line(*workspace_.chartLine()))});
-        opened_.resize(std::min(opened_.size(), kMostOpened));
-        showOpened();
+        sections_->noteOpened();
         selectLine(*workspace_.chartLine());
-    }
-}
-
-void ChartListPane::showOpened()
-{
-    qDeleteAll(openItem_->takeChildren());
-    for (const Opened& opened : opened_) {
-        new QTreeWidgetItem(openItem_, {opened.name});
-    }
-    openItem_->setHidden(opened_.empty());
-}
-
-void ChartListPane::showRecentFiles()
-{
-    qDeleteAll(recentItem_->takeChildren());
-    for (const QString& file : recentFiles()) {
-        auto* const item = new QTreeWidgetItem(recentItem_, {QFileInfo(file).fileName()});
-        item->setToolTip(0, file);
-        item->setData(0, Qt::UserRole, file);
-    }
-    recentItem_->setHidden(recentItem_->childCount() == 0);
-}
-
-void ChartListPane::openAgain(const Opened& opened)
-{
-    data::ChartDatabase& charts = workspace_.database().charts();
-    if (const auto line = charts.find(toWide(opened.name))) {
-        workspace_.showLine(*line);
-        return;
-    }
-    core::Chart record;
-    data::DateOrder order = charts.order();
-    workspace_.showRecord(data::ParseChartLine(opened.line, record, order));
-}
-
-void ChartListPane::SectionsTreeItemActivated(QTreeWidgetItem* item)
-{
-    if (item->parent() == openItem_) {
-        // What is shown changes the list that the chart stands in.
-        const Opened opened = opened_[std::size_t(openItem_->indexOfChild(item))];
-        openAgain(opened);
-        emit chartOpened();
-    } else if (item->parent() == recentItem_) {
-        emit fileWanted(item->data(0, Qt::UserRole).toString());
-    } else if (item != openItem_ && item != recentItem_) {
-        workspace_.showRecord(workspace_.nowRecord());
-        emit chartOpened();
     }
 }
 

@@ -18,14 +18,13 @@ class QLineEdit;
 class QModelIndex;
 class QMenu;
 class QTreeView;
-class QTreeWidget;
-class QTreeWidgetItem;
 
 namespace kestrav::desktop
 {
 
 class BackgroundWork;
 class ChartListModel;
+class ChartSections;
 class Workspace;
 
 /// Enter or a double click opens a chart, Space shows it and leaves the focus in the list.
@@ -68,34 +67,23 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    // A chart opened in this run; it may have left the database since.
-    struct Opened
-    {
-        QString name;
-        std::string line;
-    };
-
     void makeChoosers();
     void makeList();
-    void makeSections();
     void makeReloadBar();
     void arrange();
     void fitColumns();
     void showColumns();
     void fillLabels();
     void showCount();
-    void showOpened();
     void keepSelection();
     void restoreSelection();
     bool listKey(int key);
     bool filterKey(int key);
     void openCurrent(bool preview);
-    void openAgain(const Opened& opened);
     void ListContextMenu(const QPoint& position);
     void FilterEditTextChanged(const QString& text);
     void SortComboBoxActivated(int index);
     void LabelComboBoxActivated(int index);
-    void SectionsTreeItemActivated(QTreeWidgetItem* item);
     void makeCurrent(const QModelIndex& index);
     void ChartChanged();
 
@@ -110,10 +98,7 @@ private:
     QTreeView* list_;
     QLabel* count_;
     QLabel* hint_; ///< why nothing is listed
-    QTreeWidget* sections_;
-    QTreeWidgetItem* openItem_ = nullptr;
-    QTreeWidgetItem* recentItem_ = nullptr;
-    std::vector<Opened> opened_; ///< the newest first
+    ChartSections* sections_;
     std::vector<std::size_t> keptLines_;
     std::optional<std::size_t> keptCurrent_;
     bool previewing_ = false;
