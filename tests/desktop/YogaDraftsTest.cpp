@@ -1,11 +1,8 @@
 // What becomes of edited yogas: steps, and drafts after an end without saving.
 #include "app/desktop/yogas/YogaDrafts.h"
-#include "app/desktop/pages/PageStrip.h"
 #include "app/desktop/yogas/TYogaConditionDlg.h"
-#include "app/desktop/yogas/YogaDesk.h"
 #include "app/desktop/yogas/YogaFilePaths.h"
-#include "app/desktop/yogas/Ytyogatree.h"
-#include "tests/desktop/DesktopForTests.h"
+#include "tests/desktop/YogaForTests.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -23,29 +20,9 @@ namespace kestrav::desktop
 namespace
 {
 
-class YogaDraftsTest : public WindowTest
+class YogaDraftsTest : public YogaWindowTest
 {
 protected:
-    void SetUp() override
-    {
-        WindowTest::SetUp();
-        openYogas();
-    }
-
-    // The delivered yogas and the page, as the start of the program does it.
-    void openYogas()
-    {
-        auto library = std::make_shared<yoga::YogaLibrary>();
-        ASSERT_TRUE(
-            library->load(std::filesystem::path(KESTRAV_BIN) / yoga::kYogaFolder / "raja.ksy")
-                .ok());
-        workspace().setYogas(library);
-        ASSERT_TRUE(window().pages().show(QStringLiteral("Yogas")));
-        settle();
-        form_ = find<TYogaTreeForm>("TYogaTreeForm");
-        ASSERT_NE(form_, nullptr);
-    }
-
     // An end without closing, and a new start.
     void killAndOpen()
     {
@@ -53,10 +30,6 @@ protected:
         openYogas();
     }
 
-    YogaDesk& desk()
-    {
-        return YogaDesk::of(workspace());
-    }
     void keep()
     {
         window().findChild<YogaDrafts*>()->keep();
@@ -81,8 +54,6 @@ protected:
         QTest::keyClick(title, Qt::Key_Return);
         settle();
     }
-
-    TYogaTreeForm* form_ = nullptr;
 };
 
 TEST_F(YogaDraftsTest, UnsavedYogasAreOfferedAfterAnEndWithoutSaving)

@@ -1,17 +1,14 @@
 // The tree of yogas with its editor, and the search of the database.
-#include "app/desktop/pages/PageStrip.h"
 #include "app/desktop/panels/TableModel.h"
 #include "app/desktop/panels/TableView.h"
 #include "app/desktop/research/YogaFindings.h"
 #include "app/desktop/yogas/RuleEditor.h"
 #include "app/desktop/yogas/TYogaConditionDlg.h"
-#include "app/desktop/yogas/YogaDesk.h"
 #include "app/desktop/yogas/YogaFilePaths.h"
 #include "app/desktop/yogas/YogaTreeModel.h"
-#include "app/desktop/yogas/Ytyogatree.h"
 #include "data/DatabaseMessages.h"
 #include "data/ResearchDatabase.h"
-#include "tests/desktop/DesktopForTests.h"
+#include "tests/desktop/YogaForTests.h"
 #include "yoga/RuleEdit.h"
 
 #include <QAbstractItemModelTester>
@@ -40,27 +37,9 @@ namespace
 
 constexpr char kKendraFromMoon[] = "InHouse,,Jup,Moo,ken";
 
-class YogaEditorTest : public WindowTest
+class YogaEditorTest : public YogaWindowTest
 {
 protected:
-    void SetUp() override
-    {
-        WindowTest::SetUp();
-        auto library = std::make_shared<yoga::YogaLibrary>();
-        ASSERT_TRUE(
-            library->load(std::filesystem::path(KESTRAV_BIN) / yoga::kYogaFolder / "raja.ksy")
-                .ok());
-        workspace().setYogas(library);
-        ASSERT_TRUE(window().pages().show(QStringLiteral("Yogas")));
-        settle();
-        form_ = find<TYogaTreeForm>("TYogaTreeForm");
-        ASSERT_NE(form_, nullptr);
-    }
-
-    YogaDesk& desk()
-    {
-        return YogaDesk::of(workspace());
-    }
     RuleEditor& rule()
     {
         return *find<RuleEditor>("RuleEditor", form_);
@@ -97,8 +76,6 @@ protected:
         auto* const chooser = find<QWidget>(parameter, &dialog);
         find<QComboBox>("PointComboBox", chooser)->setEditText(word);
     }
-
-    TYogaTreeForm* form_ = nullptr;
 };
 
 TEST_F(YogaEditorTest, BuildsARuleSavesItAndReadsItAgain)
