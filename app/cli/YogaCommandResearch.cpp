@@ -3,6 +3,7 @@
 #include "app/cli/Console.h"
 #include "app/cli/Progress.h"
 #include "core/FileText.h"
+#include "data/DatabaseCommands.h"
 #include "data/DatabaseMessages.h"
 #include "data/ResearchDatabase.h"
 #include "data/ResearchRebuild.h"
@@ -66,9 +67,7 @@ std::optional<data::LineList> refreshedResearch(DatabaseCall& call, const astro:
     }
     const core::Result<void> saved = data::saveResearch(call.database, call.settings, *lines);
     if (!saved) {
-        call.messages.notice(data::kErrorCaption,
-                             data::kSavingError +
-                                 (L" " + core::fromFileBytes(saved.error().text())));
+        data::tellSavingError(saved.error(), call.messages);
         return std::nullopt;
     }
     data::LineList list;

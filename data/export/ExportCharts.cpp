@@ -1,6 +1,6 @@
 #include "data/export/ExportCharts.h"
+#include "data/DatabaseCommands.h"
 
-#include "core/FileText.h"
 #include "data/DatabaseMessages.h"
 #include "data/DerivedFile.h"
 #include "data/export/ChartRows.h"
@@ -105,8 +105,7 @@ Outcome exportCharts(ChartDatabase& database, ExportFormat format, const std::fi
     }
     const core::Result<void> written = writeExport(database, format, to, report);
     if (!written) {
-        messages.notice(kErrorCaption,
-                        kSavingError + (L" " + core::fromFileBytes(written.error().text())));
+        tellSavingError(written.error(), messages);
         return Outcome::Failed;
     }
     return Outcome::Done;

@@ -6,8 +6,8 @@
 #include "app/desktop/shell/Convert.h"
 #include "app/desktop/shell/TMessages.h"
 #include "app/desktop/shell/Workspace.h"
-#include "core/FileText.h"
 #include "data/CheckDatabaseLine.h"
+#include "data/DatabaseCommands.h"
 #include "data/DatabaseMessages.h"
 #include "data/ResearchRebuild.h"
 
@@ -38,6 +38,7 @@ data::LineList listOf(const data::ResearchLines& lines)
 struct ResearchDesk::Run
 {
     data::ChartDatabase charts;
+    int revision = 0; ///< of the window's lines when they were copied
     core::Settings settings;
     DataPointer data;
     Then then;
@@ -63,14 +64,9 @@ struct ResearchDesk::Run
 
     void build(const WorkHandle& handle)
     {
-        data::LongWork work;
-        work.cancel = handle.cancelFlag();
-        work.progress = [&handle](std::size_t done, std::size_t total) {
-            handle.progress(done, total);
-        };
         // What is wrong with the lines has been told.
         NotedMessages told;
-        lines = data::rebuildResearch(charts, settings, data->series, told, work);
+        lines = data::rebuildResearch(charts, settings, data->series, told, handle.longWork());
         if (lines) {
             if (const auto saved = data::saveResearch(charts, settings, *lines); !saved) {
                 problem = saved.error();
@@ -182,7 +178,10 @@ void ResearchDesk::refresh(Then then)
     }
     work_.cancel();
     auto run = std::make_shared<Run>();
+    // What was typed belongs to the copy, too.
+    emit workspace_.database().editsDue();
     run->charts = workspace_.database().charts();
+    run->revision = workspace_.database().revision();
     run->settings = workspace_.settings();
     run->data = workspace_.data();
     run->then = std::move(then);
@@ -198,7 +197,7 @@ void ResearchDesk::refresh(Then then)
                 workspace_.tell(tr("The research database was not changed."));
                 return;
             }
-            keepNames(walked->charts);
+            keepNames(*walked);
             build(walked);
         });
 }
@@ -220,8 +219,7 @@ void ResearchDesk::finish(Run& run)
 {
     if (run.problem) {
         TMessages messages;
-        messages.notice(data::kErrorCaption,
-                        data::kSavingError + (L" " + core::fromFileBytes(run.problem->text())));
+        data::tellSavingError(*run.problem, messages);
         return;
     }
     if (!run.lines) {
@@ -245,9 +243,12 @@ void ResearchDesk::finish(Run& run)
 }
 
 // Charts without a name have one in their research lines, so that they get it in the database too.
-void ResearchDesk::keepNames(const data::ChartDatabase& named)
+void ResearchDesk::keepNames(const Run& walked)
 {
-    if (!named.modified() || named.path() != workspace_.database().path()) {
+    const data::ChartDatabase& named = walked.charts;
+    // Lines that were changed meanwhile are not replaced by what they were before.
+    if (!named.modified() || named.path() != workspace_.database().path() ||
+        walked.revision != workspace_.database().revision()) {
         return;
     }
     workspace_.database().change(tr("Name Charts"), [&](data::ChartDatabase& charts) {

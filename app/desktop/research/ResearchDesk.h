@@ -91,7 +91,7 @@ private:
     void ask(const Then& then);
     void build(const std::shared_ptr<Run>& run);
     void finish(Run& run);
-    void keepNames(const data::ChartDatabase& named);
+    void keepNames(const Run& walked);
 
     Workspace& workspace_;
     BackgroundWork work_;

@@ -3,6 +3,7 @@
 #include "app/desktop/yogas/YogaDesk.h"
 #include "app/desktop/yogas/YogaFilePaths.h"
 #include "core/Locations.h"
+#include "data/DatabaseCommands.h"
 #include "data/DatabaseMessages.h"
 #include "yoga/RuleEdit.h"
 #include "yoga/YogaListEdit.h"
@@ -195,8 +196,7 @@ bool YogaDesk::saveAs(std::size_t file, const fs::path& path, core::Messages& me
         return false;
     }
     if (const core::Result<void> written = writeYogas(path, saved.file); !written) {
-        messages.notice(data::kErrorCaption,
-                        data::kSavingError + (L" " + core::fromFileBytes(written.error().text())));
+        data::tellSavingError(written.error(), messages);
         return false;
     }
     if (same) {
