@@ -148,6 +148,35 @@ TEST_F(WindowTest, ResearchMadeAnywhereIsSeenEverywhere)
     EXPECT_FALSE(find<QPushButton>("MakeResearchButton")->isVisible());
 }
 
+TEST_F(WindowTest, RefreshingNamesChartsButNotOverWhatWasDoneMeanwhile)
+{
+    OpenDatabase& database = workspace().database();
+    const std::size_t line = *database.charts().find(L"Albert Einstein");
+    const auto rename = [&](std::size_t at, const std::string& from, const std::string& to) {
+        database.change(QStringLiteral("rename"), [&](data::ChartDatabase& charts) {
+            std::string text(charts.line(at));
+            text.replace(text.find(from), from.size(), to);
+            charts.replaceLine(at, text);
+            return data::Outcome::Done;
+        });
+    };
+    rename(line, "\"Albert Einstein\"", "\"\"");
+    for (const bool meanwhile : {true, false}) {
+        TMessages::prepare(core::Answer::Ok);
+        ResearchDesk::of(workspace()).refresh();
+        if (meanwhile) {
+            rename(line, "\"Physicist\"", "\"Violinist\"");
+        }
+        settle();
+        const auto told = TMessages::takeShown();
+        ASSERT_EQ(told.size(), 1U);
+        EXPECT_TRUE(told[0].text.contains(QStringLiteral("a record seems to have no name")));
+        const std::string text(database.charts().line(line));
+        EXPECT_NE(text.find("\"Violinist\""), std::string::npos) << text;
+        EXPECT_EQ(text.find("\"No Name\"") == std::string::npos, meanwhile) << text;
+    }
+}
+
 TEST_F(WindowTest, TablesShowTheChosenColumns)
 {
     present::Table table = {"sample", L"Sample", {{L"A"}, {L"B"}, {L"C"}}};
