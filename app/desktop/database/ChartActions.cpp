@@ -197,6 +197,7 @@ void ChartActions::changeGroup(wchar_t group, GroupChange how)
     }
     // The tags are written to the file, and with them what was typed.
     emit database_.editsDue();
+    database_.waitForSave();
     SettledMessages settled(files_.messages(), window_.workspace().settings());
     const auto file = data::agreesToChangeGroup(group, settled)
                           ? data::agreeToSave(database_.charts(), database_.path(), settled)

@@ -55,6 +55,8 @@ void DatabaseActions::addSaveCommands()
 bool DatabaseActions::beginSave()
 {
     emit database().editsDue();
+    // What an unfinished save has written already is nobody else's change.
+    database().waitForSave();
     if (!database().writable()) {
         return beginSaveAs();
     }
@@ -68,6 +70,7 @@ bool DatabaseActions::beginSave()
 bool DatabaseActions::beginSaveAs()
 {
     emit database().editsDue();
+    database().waitForSave();
     const std::filesystem::path& now = database().path();
     const bool reachable = database().writable();
     const QString suggestion = now.empty() ? chartsFolder() + QStringLiteral("/My Charts.ksc")
@@ -126,6 +129,7 @@ void DatabaseActions::write(const std::filesystem::path& file, const QString& ne
 void DatabaseActions::SaveInOtherOrderActionClick()
 {
     emit database().editsDue();
+    database().waitForSave();
     if (!database().writable() && !saveAs()) {
         return;
     }
